@@ -1,0 +1,13 @@
+# Libraries from the distribution; scripts/packages lists the packages that bring them.
+find_package(PkgConfig REQUIRED)
+find_package(absl REQUIRED)
+find_package(simdjson REQUIRED)
+find_package(nlohmann_json REQUIRED)
+find_package(CLI11 REQUIRED)
+find_package(GTest REQUIRED)
+find_package(Boost 1.81 REQUIRED COMPONENTS locale)
+find_package(PNG REQUIRED)
+pkg_check_modules(ICU REQUIRED IMPORTED_TARGET icu-i18n icu-uc)
+pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
+pkg_check_modules(PANGO REQUIRED IMPORTED_TARGET pangocairo pangoft2 fontconfig)
+pkg_check_modules(RSVG REQUIRED IMPORTED_TARGET librsvg-2.0)

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "foundation/json.hpp"
+
+namespace messages {
+
+/// One widget kind as the gallery shows it.
+struct WidgetDescription {
+  std::string kind = {};
+  std::string shortName = {};
+  std::string displayName = {};
+  std::string description = {};
+  std::vector<std::string> families = {};
+  friend bool operator==(const WidgetDescription&, const WidgetDescription&) = default;
+};
+
+struct Catalogue {
+  std::vector<WidgetDescription> widgets = {};  ///< in the gallery's order
+  friend bool operator==(const Catalogue&, const Catalogue&) = default;
+};
+
+/// Entries and when to ask again.
+struct Timeline {
+  std::string kind = {};                             ///< the kind identifier
+  foundation::JSON policy = "never";                 ///< "atEnd", "never" or {"after": MOMENT}
+  std::vector<foundation::JSON> entries = {};        ///< each with a "date": a MOMENT
+  friend bool operator==(const Timeline&, const Timeline&) = default;
+};
+
+/// A drawn entry. The bytes (PNG, text or JSON, as asked) travel as the frame's payload, not in the header.
+struct Picture {
+  std::string bytes = {};
+  friend bool operator==(const Picture&, const Picture&) = default;
+};
+
+/// Why a request was not answered.
+struct Failure {
+  /// usage: the request asks for something that does not exist; the message lists what does.
+  enum class Reason { usage, failed };
+  Reason reason = Reason::failed;
+  std::string message = {};
+  friend bool operator==(const Failure&, const Failure&) = default;
+};
+
+using Reply = std::variant<Failure, Catalogue, Timeline, Picture>;
+
+/// The header of a reply: {"reply": NAME, …its fields…}. A Picture's bytes are left out.
+void to_json(foundation::JSON& json, const Reply& reply);
+/// Throws foundation::JSON::exception where a field is missing or of another type.
+void from_json(const foundation::JSON& json, Reply& reply);
+
+}  // namespace messages
