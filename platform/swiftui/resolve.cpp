@@ -1,0 +1,152 @@
+#include "swiftui/element.hpp"
+#include "swiftui/node.hpp"
+#include "swiftui/overload.hpp"
+
+namespace swiftui {
+namespace {
+
+/// Resolves one widget; keeps the container background that it meets on the way (the outermost one wins).
+class Resolver {
+ public:
+  Element single(const View& view, const EnvironmentValues& environment) {
+    std::vector<Element> elements;
+    append(view, environment, elements);
+    if (elements.size() == 1) return std::move(elements.front());
+    return {.value = ZStackElement{}, .children = std::move(elements)};
+  }
+
+  std::optional<Element> containerBackground;
+
+ private:
+  using Elements = std::vector<Element>;
+
+  /// Appends what the view comes to: nothing, one element, or several where it is a group.
+  void append(const View& view, const EnvironmentValues& environment, Elements& out) {
+    std::visit([&](const auto& node) { append(node, environment, out); }, view.node().value);
+  }
+
+  void append(const EmptyNode&, const EnvironmentValues&, Elements&) {}
+  void append(const GroupNode& node, const EnvironmentValues& environment, Elements& out) {
+    for (const View& child : node.children) append(child, environment, out);
+  }
+  void append(const ComponentNode& node, const EnvironmentValues& environment, Elements& out) {
+    append(node.component->body(environment), environment, out);
+  }
+  void append(const EnvironmentNode& node, const EnvironmentValues& environment, Elements& out) {
+    append(node.content, changed(environment, node.change), out);
+  }
+
+  void append(const TextNode& node, const EnvironmentValues& environment, Elements& out) {
+    out.push_back({.value = TextElement{.content = node.content,
+                                        .style = {.font = environment.font,
+                                                  .kerning = environment.kerning,
+                                                  .lineLimit = environment.lineLimit,
+                                                  .minimumScaleFactor = environment.minimumScaleFactor,
+                                                  .alignment = environment.multilineTextAlignment,
+                                                  .direction = environment.layoutDirection},
+                                        .paint = paint(environment)}});
+  }
+  void append(const ImageNode& node, const EnvironmentValues& environment, Elements& out) {
+    out.push_back({.value = ImageElement{.name = node.name,
+                                         .isSymbol = node.isSymbol,
+                                         .isResizable = node.isResizable,
+                                         .paint = paint(environment)}});
+  }
+  void append(const ShapeNode& node, const EnvironmentValues& environment, Elements& out) {
+    out.push_back({.value = ShapeElement{.shape = node.shape,
+                                         .stroke = node.stroke,
+                                         .isStrokeInside = node.isStrokeInside,
+                                         .paint = paint(environment)}});
+  }
+  void append(const SpacerNode& node, const EnvironmentValues&, Elements& out) {
+    out.push_back({.value = SpacerElement{.minLength = node.minLength}});
+  }
+
+  void append(const StackNode& node, const EnvironmentValues& environment, Elements& out) {
+    Elements children = all(node.children, environment);
+    for (Element& child : children) {
+      if (auto* spacer = std::get_if<SpacerElement>(&child.value)) spacer->axis = node.axis;
+    }
+    out.push_back({.value = StackElement{.axis = node.axis, .alignment = node.alignment, .spacing = node.spacing},
+                   .children = std::move(children)});
+  }
+  void append(const ZStackNode& node, const EnvironmentValues& environment, Elements& out) {
+    out.push_back({.value = ZStackElement{.alignment = node.alignment}, .children = all(node.children, environment)});
+  }
+
+  void append(const PaddingNode& node, const EnvironmentValues& environment, Elements& out) {
+    wrapEach(node.content, environment, PaddingElement{.insets = node.insets}, out);
+  }
+  void append(const FixedFrameNode& node, const EnvironmentValues& environment, Elements& out) {
+    wrapEach(node.content, environment, FixedFrameElement{.frame = node.frame}, out);
+  }
+  void append(const FlexibleFrameNode& node, const EnvironmentValues& environment, Elements& out) {
+    wrapEach(node.content, environment, FlexibleFrameElement{.frame = node.frame}, out);
+  }
+  void append(const FixedSizeNode& node, const EnvironmentValues& environment, Elements& out) {
+    wrapEach(node.content, environment, FixedSizeElement{.horizontal = node.horizontal, .vertical = node.vertical},
+             out);
+  }
+  void append(const LayoutPriorityNode& node, const EnvironmentValues& environment, Elements& out) {
+    wrapEach(node.content, environment, LayoutPriorityElement{.priority = node.priority}, out);
+  }
+  void append(const OffsetNode& node, const EnvironmentValues& environment, Elements& out) {
+    wrapEach(node.content, environment, OffsetElement{.offset = node.offset}, out);
+  }
+
+  void append(const LayerNode& node, const EnvironmentValues& environment, Elements& out) {
+    Element content = single(node.content, environment);
+    Element secondary = single(node.secondary, environment);
+    out.push_back({.value = LayerElement{.isBehind = node.isBehind, .alignment = node.alignment},
+                   .children = {std::move(content), std::move(secondary)}});
+  }
+  void append(const ContainerBackgroundNode& node, const EnvironmentValues& environment, Elements& out) {
+    append(node.content, environment, out);
+    containerBackground = single(node.background, environment);
+  }
+
+  void append(const ToggleNode& node, const EnvironmentValues& environment, Elements& out) {
+    const View look = environment.toggleStyle
+                          ? environment.toggleStyle->makeBody({.isOn = node.options.isOn, .label = node.label})
+                          : node.label;
+    out.push_back({.value = ToggleElement{.meaning = {.isOn = node.options.isOn, .intent = node.options.intent}},
+                   .children = {single(look, environment)}});
+  }
+
+  Elements all(const std::vector<View>& views, const EnvironmentValues& environment) {
+    Elements elements;
+    for (const View& view : views) append(view, environment, elements);
+    return elements;
+  }
+
+  /// A modifier of a group is one of each of its members.
+  template <class Wrapper>
+  void wrapEach(const View& content, const EnvironmentValues& environment, const Wrapper& wrapper, Elements& out) {
+    Elements elements;
+    append(content, environment, elements);
+    for (Element& element : elements) {
+      Element wrapped{.value = wrapper, .children = {}};
+      wrapped.children.push_back(std::move(element));
+      out.push_back(std::move(wrapped));
+    }
+  }
+
+  static Paint paint(const EnvironmentValues& environment) {
+    return {.color = uikit::resolve(environment.foregroundColor, environment.colorScheme),
+            .opacity = environment.opacity,
+            .colorScheme = environment.colorScheme,
+            .accessibilityHidden = environment.accessibilityHidden};
+  }
+};
+
+}  // namespace
+
+ResolvedWidget resolve(const View& view, const EnvironmentValues& environment) {
+  Resolver resolver;
+  ResolvedWidget widget;
+  widget.content = resolver.single(view, environment);
+  widget.containerBackground = std::move(resolver.containerBackground);
+  return widget;
+}
+
+}  // namespace swiftui

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <variant>
+#include <vector>
+
+namespace swiftui {
+
+struct Rectangle {
+  friend bool operator==(const Rectangle&, const Rectangle&) = default;
+};
+struct RoundedRectangle {
+  double cornerRadius = 0;  ///< points
+  friend bool operator==(const RoundedRectangle&, const RoundedRectangle&) = default;
+};
+/// As large as fits, in the middle of its frame.
+struct Circle {
+  friend bool operator==(const Circle&, const Circle&) = default;
+};
+
+using Shape = std::variant<Rectangle, RoundedRectangle, Circle>;
+
+enum class LineCap { butt, round };
+enum class LineJoin { miter, round };
+
+/// The pen that outlines a shape; centred on the outline.
+struct StrokeStyle {
+  double lineWidth = 1;  ///< points
+  LineCap lineCap = LineCap::butt;
+  LineJoin lineJoin = LineJoin::miter;
+  double miterLimit = 10;
+  std::vector<double> dash = {};  ///< lengths of dashes and gaps in turn, points; empty for a full line
+
+  friend bool operator==(const StrokeStyle&, const StrokeStyle&) = default;
+};
+
+}  // namespace swiftui
