@@ -1,6 +1,6 @@
 #pragma once
 
-#include <optional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -15,10 +15,10 @@ namespace swiftui {
 /// An element at its place. Refers to the element, which must outlive it.
 struct PlacedElement {
   const Element* element = nullptr;
-  Rect frame = {};                                ///< in the root's coordinates, not rounded to pixels
-  std::optional<TextLayout> text = std::nullopt;  ///< for a text: how it is broken
-  double firstBaseline = 0;                       ///< for a text: from the frame's top
-  std::vector<PlacedElement> children = {};       ///< in painting order
+  Rect frame = {};                                   ///< in the root's coordinates, not rounded to pixels
+  std::shared_ptr<const TextLayout> text = nullptr;  ///< for a text: how it is broken
+  double firstBaseline = 0;                          ///< for a text: from the frame's top
+  std::vector<PlacedElement> children = {};          ///< in painting order
 };
 
 struct LayoutOptions {

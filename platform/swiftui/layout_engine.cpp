@@ -18,14 +18,15 @@ double roundedToPixel(double points, double scale) {
 }
 
 LayoutResult layoutText(const LayoutEngine& engine, const TextElement& text, ProposedSize proposal) {
-  const TextLayout layout = engine.measurer().layoutText(text.content, text.style, proposal);
+  auto layout = std::make_shared<const TextLayout>(engine.measurer().layoutText(text.content, text.style, proposal));
   const double scale = engine.displayScale();
-  const double height = roundedUp(layout.height(), scale);
-  const double aboveLastLine = layout.height() - layout.metrics.lineHeight();
-  return {.size = {.width = roundedUp(layout.width(), scale), .height = height},
-          .firstBaseline = roundedToPixel(layout.metrics.ascent, scale),
-          .lastBaseline = roundedUp(aboveLastLine + layout.metrics.ascent, scale),
-          .children = {}};
+  const double ascent = layout->metrics.ascent;
+  const double aboveLastLine = layout->height() - layout->metrics.lineHeight();
+  return {.size = {.width = roundedUp(layout->width(), scale), .height = roundedUp(layout->height(), scale)},
+          .firstBaseline = roundedToPixel(ascent, scale),
+          .lastBaseline = roundedUp(aboveLastLine + ascent, scale),
+          .children = {},
+          .text = std::move(layout)};
 }
 
 LayoutResult layoutImage(const LayoutEngine& engine, const ImageElement& image, ProposedSize proposal) {
@@ -184,10 +185,8 @@ PlacedElement LayoutEngine::place(const Element& element, Point origin, Proposed
                                   LayoutDirection direction) {
   const LayoutResult& result = measure(element, proposal);
   PlacedElement placed{.element = &element, .frame = {.origin = origin, .size = result.size}};
-  if (const auto* text = std::get_if<TextElement>(&element.value)) {
-    placed.text = measurer_.layoutText(text->content, text->style, proposal);
-    placed.firstBaseline = result.firstBaseline.value_or(0);
-  }
+  placed.text = result.text;
+  if (result.text) placed.firstBaseline = result.firstBaseline.value_or(0);
   for (std::size_t i = 0; i < element.children.size(); ++i) {
     const Placement& placement = result.children[i];
     const Element& child = element.children[i];

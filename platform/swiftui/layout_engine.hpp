@@ -17,7 +17,8 @@ struct LayoutResult {
   Size size = {};
   std::optional<double> firstBaseline = std::nullopt;  ///< from the top; absent where there is no text below
   std::optional<double> lastBaseline = std::nullopt;
-  std::vector<Placement> children = {};  ///< one for each child
+  std::vector<Placement> children = {};              ///< one for each child
+  std::shared_ptr<const TextLayout> text = nullptr;  ///< of a text
 };
 
 /// Measures and places the elements of one tree. Answers are kept, so that asking again costs nothing: a stack asks

@@ -1,0 +1,113 @@
+#include "rendering/display_list_json.hpp"
+
+#include <cmath>
+
+#include "foundation/iso8601.hpp"
+#include "swiftui/overload.hpp"
+
+namespace rendering {
+namespace {
+
+using foundation::JSON;
+using namespace swiftui;
+
+JSON number(double value) {
+  const double rounded = std::round(value * 100) / 100;
+  // Whole numbers are printed as such, and there is no "-0".
+  if (rounded == std::trunc(rounded)) return static_cast<long long>(rounded);
+  return rounded;
+}
+
+JSON jsonOf(Rect frame) {
+  return JSON::array(
+      {number(frame.origin.x), number(frame.origin.y), number(frame.size.width), number(frame.size.height)});
+}
+
+void addInk(JSON& json, const Ink& ink) {
+  json["opacity"] = number(ink.opacity);
+  json["color"] = uikit::hexText(ink.color);
+}
+
+JSON jsonOf(const DrawText& draw) {
+  const Font& font = draw.style.font;
+  JSON json{{"draw", "text"}, {"text", draw.shown}, {"frame", jsonOf(draw.frame)}};
+  json["font"] = font.name.empty() ? "system" : font.name;
+  json["size"] = number(font.size);
+  json["weight"] = nameOf(font.weight);
+  json["design"] = nameOf(font.design);
+  if (font.italic) json["italic"] = true;
+  if (draw.style.kerning != 0) json["kerning"] = number(draw.style.kerning);
+  if (draw.scale != 1) json["scale"] = number(draw.scale);
+  addInk(json, draw.ink);
+  return json;
+}
+
+JSON jsonOf(const DrawImage& draw) {
+  JSON json{{"draw", "image"}, {"name", draw.name}, {"frame", jsonOf(draw.frame)}};
+  if (draw.tint) json["tint"] = uikit::hexText(*draw.tint);
+  if (draw.opacity != 1) json["opacity"] = number(draw.opacity);
+  return json;
+}
+
+JSON jsonOf(const StrokeStyle& stroke) {
+  JSON dash = JSON::array();
+  for (const double length : stroke.dash) dash.push_back(number(length));
+  JSON json{{"width", number(stroke.lineWidth)}, {"dash", dash}};
+  json["lineCap"] = stroke.lineCap == LineCap::round ? "round" : "butt";
+  return json;
+}
+
+JSON jsonOf(const DrawShape& draw) {
+  JSON json{{"draw", "shape"}};
+  std::visit(Overload{
+                 [&](const Rectangle&) { json["shape"] = "rectangle"; },
+                 [&](const RoundedRectangle& shape) {
+                   json["shape"] = "roundedRectangle";
+                   json["cornerRadius"] = number(shape.cornerRadius);
+                 },
+                 [&](const Circle&) { json["shape"] = "circle"; },
+             },
+             draw.shape);
+  json["frame"] = jsonOf(draw.frame);
+  json["stroke"] = draw.stroke ? jsonOf(*draw.stroke) : JSON();
+  json["fill"] = draw.stroke ? JSON() : JSON(uikit::hexText(draw.ink.color));
+  addInk(json, draw.ink);
+  return json;
+}
+
+JSON jsonOf(const appintents::ParameterValue& value) {
+  return std::visit(Overload{
+                        [](const std::string& text) { return JSON(text); },
+                        [](const std::optional<foundation::Date>& date) {
+                          return date ? JSON(foundation::formatMoment(*date)) : JSON();
+                        },
+                    },
+                    value);
+}
+
+}  // namespace
+
+JSON jsonOf(const DisplayList& list) {
+  JSON json = JSON::array();
+  for (const DrawCommand& command : list) {
+    json.push_back(std::visit([](const auto& draw) { return jsonOf(draw); }, command));
+  }
+  return json;
+}
+
+JSON jsonOf(const Meaning& meaning) {
+  JSON json = JSON::array();
+  for (const MeaningItem& item : meaning) {
+    const bool isCheckbox = item.role == MeaningItem::Role::checkbox;
+    JSON entry{{"role", isCheckbox ? "checkbox" : "text"}, {"label", item.label}};
+    if (isCheckbox) {
+      entry["checked"] = item.isChecked;
+      for (const auto& parameter : item.intent.parameters) entry[parameter.title] = jsonOf(parameter.value);
+    }
+    entry["frame"] = jsonOf(item.frame);
+    json.push_back(std::move(entry));
+  }
+  return json;
+}
+
+}  // namespace rendering

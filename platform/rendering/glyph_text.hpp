@@ -1,0 +1,50 @@
+#pragma once
+
+#include <pango/pangocairo.h>
+
+#include <map>
+#include <memory>
+#include <string>
+
+#include "rendering/fontconfig.hpp"
+#include "rendering/gobject.hpp"
+#include "swiftui/alignment.hpp"
+#include "swiftui/font.hpp"
+
+namespace rendering {
+
+/// A font as the shaper is asked for it.
+struct GlyphStyle {
+  swiftui::Font font = {};  ///< at the size that it is drawn with
+  double spacing = 0;       ///< added to the width of every character, points
+  swiftui::LayoutDirection direction = swiftui::LayoutDirection::leftToRight;
+};
+
+struct FreePangoFontDescription {
+  void operator()(PangoFontDescription* description) const { pango_font_description_free(description); }
+};
+using FontDescription = std::unique_ptr<PangoFontDescription, FreePangoFontDescription>;
+
+/// The one place that knows Pango's fonts: makes paragraphs in user units, unhinted, so that widths are the same at
+/// every scale.
+class GlyphText {
+ public:
+  GlyphText();
+
+  /// A paragraph of that text; without a width until it is given one.
+  GObjectHandle<PangoLayout> paragraph(const std::string& content, const GlyphStyle& style) const;
+
+  /// A custom font's own measures at that size.
+  swiftui::FontMetrics customFontMetrics(const swiftui::Font& font) const;
+
+ private:
+  FontDescription description(const swiftui::Font& font) const;
+  const FontFace& customFace(const swiftui::Font& font) const;
+
+  FontconfigHandle fontconfig_;
+  GObjectHandle<PangoFontMap> fontMap_;
+  GObjectHandle<PangoContext> context_;
+  mutable std::map<std::string, FontFace> customFaces_;
+};
+
+}  // namespace rendering
