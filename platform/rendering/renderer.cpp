@@ -3,9 +3,11 @@
 #include <cmath>
 
 #include "foundation/fatal_error.hpp"
+#include "rendering/asset_catalog.hpp"
 #include "rendering/cairo_handles.hpp"
 #include "rendering/cairo_player.hpp"
 #include "rendering/png_encoder.hpp"
+#include "rendering/text_engine.hpp"
 
 namespace rendering {
 namespace {
@@ -21,8 +23,19 @@ void cutToOutline(cairo_t* cairo, const Scene& scene) {
 
 }  // namespace
 
+Renderer::Renderer(const std::filesystem::path& resources)
+    : text_(std::make_unique<TextEngine>()), assets_(std::make_unique<AssetCatalog>(resources)) {}
+Renderer::~Renderer() = default;
+
+swiftui::TextLayout Renderer::layoutText(const std::string& content, const swiftui::TextStyle& style,
+                                         swiftui::ProposedSize proposal) const {
+  return text_->layoutText(content, style, proposal);
+}
+
+swiftui::FontMetrics Renderer::fontMetrics(const swiftui::Font& font) const { return text_->fontMetrics(font); }
+
 swiftui::Size Renderer::imageSize(const swiftui::ImageElement& image) const {
-  return assets_.size({.name = image.name, .isSymbol = image.isSymbol, .colorScheme = image.paint.colorScheme});
+  return assets_->size({.name = image.name, .isSymbol = image.isSymbol, .colorScheme = image.paint.colorScheme});
 }
 
 std::string Renderer::png(const Scene& scene, double scale) const {
@@ -31,7 +44,7 @@ std::string Renderer::png(const Scene& scene, double scale) const {
       cairo_image_surface_create(CAIRO_FORMAT_ARGB32, pixels(scene.size.width), pixels(scene.size.height)));
   const CairoHandle cairo(cairo_create(surface.get()));
   cairo_scale(cairo.get(), scale, scale);
-  CairoPlayer(cairo.get(), scale, text_, assets_).play(scene.drawn);
+  CairoPlayer(cairo.get(), scale, *text_, *assets_).play(scene.drawn);
   if (scene.cornerRadius > 0) cutToOutline(cairo.get(), scene);
   if (cairo_status(cairo.get()) != CAIRO_STATUS_SUCCESS) {
     foundation::fatalError(std::string("drawing failed: ") + cairo_status_to_string(cairo_status(cairo.get())));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <filesystem>
+
 #include "foundation/calendar.hpp"
 #include "foundation/date.hpp"
 #include "foundation/debug_log.hpp"
@@ -21,6 +23,7 @@ struct Platform {
   Screen screen = {};
   int systemVersion = 17;  ///< the platform's major version
   ColorScheme appearance = ColorScheme::light;
+  std::filesystem::path resources = {};  ///< the folder of what comes with the extension: fonts, pictures, words
   foundation::RandomSource random = foundation::systemRandomSource();
   foundation::DebugLog log = foundation::standardOutputLog();
 };

@@ -1,0 +1,45 @@
+#include "widgetkit/extension_loop.hpp"
+
+#include <sys/socket.h>
+
+#include <iostream>
+
+#include "messages/channel.hpp"
+
+namespace widgetkit {
+namespace {
+
+bool isSocket(int descriptor) {
+  int type = 0;
+  socklen_t length = sizeof type;
+  return getsockopt(descriptor, SOL_SOCKET, SO_TYPE, &type, &length) == 0 && type == SOCK_STREAM;
+}
+
+messages::Reply answerTo(ExtensionService& service, const foundation::JSON& header) {
+  messages::Envelope envelope;
+  try {
+    envelope = header.get<messages::Envelope>();
+  } catch (const foundation::JSON::exception& error) {
+    return messages::Failure{.reason = messages::Failure::Reason::failed,
+                             .message = std::string("not a request: ") + error.what()};
+  }
+  return service.answer(envelope);
+}
+
+}  // namespace
+
+int serveHost(ExtensionService& service, int descriptor) {
+  if (!isSocket(descriptor)) {
+    std::cerr << "mirune-extension: started without a host; run 'mirune' instead\n";
+    return 2;
+  }
+  messages::Channel channel(descriptor);
+  while (const auto frame = channel.receive()) {
+    const messages::Reply reply = answerTo(service, frame->header);
+    const auto* picture = std::get_if<messages::Picture>(&reply);
+    if (!channel.send(foundation::JSON(reply), picture != nullptr ? picture->bytes : std::string_view())) break;
+  }
+  return 0;
+}
+
+}  // namespace widgetkit

@@ -1,0 +1,83 @@
+#include "widgetkit/extension_service.hpp"
+
+#include <expected>
+
+#include "widgetkit/widget_drawing.hpp"
+
+namespace widgetkit {
+namespace {
+
+using messages::Failure;
+using messages::Reply;
+
+constexpr double smallestScale = 0.25;
+constexpr double largestScale = 16;
+
+Failure usage(std::string message) {
+  return {.reason = Failure::Reason::usage, .message = std::move(message)};
+}
+
+std::expected<StaticConfiguration, Failure> widgetNamed(const std::vector<StaticConfiguration>& widgets,
+                                                        const std::string& kind) {
+  std::string known;
+  for (const StaticConfiguration& widget : widgets) {
+    if (widget.kind() == kind || widget.shortName() == kind) return widget;
+    known += (known.empty() ? "" : ", ") + widget.shortName() + " (" + widget.kind() + ")";
+  }
+  return std::unexpected(usage("kind '" + kind + "' is unknown; use " + known));
+}
+
+std::expected<swiftui::WidgetFamily, Failure> familyNamed(const std::string& name) {
+  if (const auto family = swiftui::widgetFamilyNamed(name)) return *family;
+  std::string known;
+  for (const auto& [family, text] : swiftui::widgetFamilies) {
+    known += (known.empty() ? "" : ", ") + std::string(text);
+  }
+  return std::unexpected(usage("family '" + name + "' is unknown; use " + known));
+}
+
+}  // namespace
+
+Reply ExtensionService::answer(const messages::Envelope& envelope) {
+  const auto platform = platformFor(envelope.world, resources_);
+  if (!platform) return platform.error();
+  try {
+    return std::visit([&](const auto& request) { return answer(request, *platform); }, envelope.request);
+  } catch (const DrawingError& error) {
+    return Failure{.reason = Failure::Reason::failed, .message = error.what()};
+  } catch (const foundation::JSON::exception& error) {
+    return Failure{.reason = Failure::Reason::failed,
+                   .message = std::string("the entry is not one of this kind: ") + error.what()};
+  }
+}
+
+Reply ExtensionService::answer(const messages::DescribeCatalogue&, const uikit::Platform& platform) {
+  messages::Catalogue catalogue;
+  for (const StaticConfiguration& widget : widgets_(platform)) catalogue.widgets.push_back(widget.describe());
+  return catalogue;
+}
+
+Reply ExtensionService::answer(const messages::AskProvider& request, const uikit::Platform& platform) {
+  const auto widget = widgetNamed(widgets_(platform), request.kind);
+  if (!widget) return widget.error();
+  return widget->entries(platform, request.operation);
+}
+
+Reply ExtensionService::answer(const messages::DrawEntry& request, const uikit::Platform& platform) {
+  const auto widget = widgetNamed(widgets_(platform), request.kind);
+  if (!widget) return widget.error();
+  const auto family = familyNamed(request.family);
+  if (!family) return family.error();
+  if (!(request.scale >= smallestScale && request.scale <= largestScale)) {
+    return usage("a scale has to lie between 0.25 and 16 pixels per point");
+  }
+  const rendering::Scene scene = sceneOf(*widget, *family, request.entry, platform, request.scale, renderer());
+  return messages::Picture{.bytes = encoded(scene, request.format, request.scale, *widget, *family, renderer())};
+}
+
+const rendering::Renderer& ExtensionService::renderer() {
+  if (!renderer_) renderer_.emplace(resources_.folder);
+  return *renderer_;
+}
+
+}  // namespace widgetkit

@@ -1,0 +1,66 @@
+#include "widgetkit/widget_drawing.hpp"
+
+#include "rendering/display_list_json.hpp"
+#include "widgetkit/widget_size.hpp"
+
+namespace widgetkit {
+namespace {
+
+using swiftui::WidgetFamily;
+
+/// From this version on the system adds margins to what stands on the home screen, unless they are disabled.
+constexpr int contentMarginsVersion = 17;
+constexpr double contentMargin = 16;
+
+swiftui::EdgeInsets marginsOf(const StaticConfiguration& widget, WidgetFamily family, int systemVersion) {
+  const bool hasMargins =
+      systemVersion >= contentMarginsVersion && !widget.areContentMarginsDisabled() && !swiftui::isAccessory(family);
+  if (!hasMargins) return {};
+  return {.top = contentMargin, .leading = contentMargin, .bottom = contentMargin, .trailing = contentMargin};
+}
+
+foundation::JSON documentOf(const rendering::Scene& scene, const std::string& kind, WidgetFamily family) {
+  return {{"kind", kind},
+          {"family", swiftui::nameOf(family)},
+          {"width", scene.size.width},
+          {"height", scene.size.height},
+          {"colorScheme", scene.colorScheme == uikit::ColorScheme::dark ? "dark" : "light"},
+          {"drawn", rendering::jsonOf(scene.drawn)},
+          {"meaning", rendering::jsonOf(scene.meaning)}};
+}
+
+}  // namespace
+
+rendering::Scene sceneOf(const StaticConfiguration& widget, WidgetFamily family, const foundation::JSON& entry,
+                         const uikit::Platform& platform, double displayScale, const swiftui::LeafMeasurer& measurer) {
+  const auto direction = platform.calendar.locale().isRightToLeft() ? swiftui::LayoutDirection::rightToLeft
+                                                                    : swiftui::LayoutDirection::leftToRight;
+  const swiftui::EnvironmentValues environment{.platform = std::make_shared<const uikit::Platform>(platform),
+                                               .widgetFamily = family,
+                                               .colorScheme = platform.appearance,
+                                               .layoutDirection = direction};
+  const auto resolved = swiftui::resolve(widget.content(entry), environment);
+  return rendering::compose(resolved,
+                            {.size = widgetSize(family, platform.screen),
+                             .margins = marginsOf(widget, family, platform.systemVersion),
+                             .cornerRadius = widgetCornerRadius(family, platform.screen),
+                             .displayScale = displayScale,
+                             .direction = direction,
+                             .colorScheme = platform.appearance},
+                            measurer);
+}
+
+std::string encoded(const rendering::Scene& scene, messages::PictureFormat format, double scale,
+                    const StaticConfiguration& widget, WidgetFamily family, const rendering::Renderer& renderer) {
+  switch (format) {
+    case messages::PictureFormat::png:
+      return renderer.png(scene, scale);
+    case messages::PictureFormat::text:
+      return rendering::plainText(scene.meaning);
+    case messages::PictureFormat::json:
+      break;
+  }
+  return documentOf(scene, widget.kind(), family).dump(2) + "\n";
+}
+
+}  // namespace widgetkit
