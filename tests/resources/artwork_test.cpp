@@ -1,0 +1,166 @@
+#include <cairo.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <fstream>
+#include <memory>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace {
+
+using Rgb = std::array<double, 3>;
+
+constexpr Rgb lightPaper{0xFB / 255.0, 0xF7 / 255.0, 0xEF / 255.0}, darkPaper{0x21 / 255.0, 0x1F / 255.0, 0x26 / 255.0};
+
+struct Badge {
+  std::string name;
+  bool dark = false;
+};
+
+std::vector<Badge> badges() {
+  std::ifstream table(MIRUNE_BADGES);
+  std::vector<Badge> found;
+  for (std::string line; std::getline(table, line);) {
+    if (line.starts_with('#')) continue;
+    std::istringstream row(line);
+    std::string appearance, name;
+    std::getline(row, appearance, '\t');
+    std::getline(row, name, '\t');
+    found.push_back({.name = name, .dark = appearance == "dark"});
+  }
+  return found;
+}
+
+/// A decoded picture, as Cairo stores it: premultiplied, alpha in the highest byte.
+class Png {
+ public:
+  explicit Png(const std::string& name)
+      : surface_(cairo_image_surface_create_from_png((MIRUNE_SHARE "/images/" + name + "@3x.png").c_str()),
+                 &cairo_surface_destroy) {}
+
+  bool decoded() const { return cairo_surface_status(surface_.get()) == CAIRO_STATUS_SUCCESS; }
+  bool opaque() const { return cairo_image_surface_get_format(surface_.get()) == CAIRO_FORMAT_RGB24; }
+  int width() const { return cairo_image_surface_get_width(surface_.get()); }
+  int height() const { return cairo_image_surface_get_height(surface_.get()); }
+
+  double alphaAt(int x, int y) const { return byteAt(x, y, 24); }
+  Rgb over(const Rgb& paper, int x, int y) const {
+    const double through = opaque() ? 0 : 1 - alphaAt(x, y);
+    return {byteAt(x, y, 16) + through * paper[0], byteAt(x, y, 8) + through * paper[1],
+            byteAt(x, y, 0) + through * paper[2]};
+  }
+
+ private:
+  double byteAt(int x, int y, unsigned shift) const {
+    const unsigned char* row = cairo_image_surface_get_data(surface_.get()) +
+                               static_cast<std::ptrdiff_t>(y) * cairo_image_surface_get_stride(surface_.get());
+    return (reinterpret_cast<const std::uint32_t*>(row)[x] >> shift & 0xFFU) / 255.0;
+  }
+
+  std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)> surface_;
+};
+
+/// The mean colour of the part that the day number stands on.
+Rgb middleOf(const Png& picture, const Rgb& paper) {
+  Rgb sum{};
+  int count = 0;
+  for (int y = picture.height() / 5; y < picture.height() * 4 / 5; ++y) {
+    for (int x = picture.width() / 5; x < picture.width() * 4 / 5; ++x, ++count) {
+      const Rgb one = picture.over(paper, x, y);
+      for (std::size_t channel = 0; channel < 3; ++channel) sum[channel] += one[channel];
+    }
+  }
+  for (double& channel : sum) channel /= count;
+  return sum;
+}
+
+double luminance(const Rgb& colour) {
+  const auto linear = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+  return 0.2126 * linear(colour[0]) + 0.7152 * linear(colour[1]) + 0.0722 * linear(colour[2]);
+}
+
+/// Contrast ratio as WCAG 2 defines it.
+double contrast(const Rgb& one, const Rgb& other) {
+  const double a = luminance(one), b = luminance(other);
+  return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+Rgb inkOn(const Rgb& ground, bool dark) {
+  const double ink = dark ? 1 : 0, opacity = dark ? 0.9 : 0.6;
+  return {std::lerp(ground[0], ink, opacity), std::lerp(ground[1], ink, opacity), std::lerp(ground[2], ink, opacity)};
+}
+
+TEST(Artwork, HasEveryBadgeOnce) {
+  std::set<std::string> light, dark;
+  for (const Badge& badge : badges()) EXPECT_TRUE((badge.dark ? dark : light).insert(badge.name).second) << badge.name;
+  EXPECT_EQ(light.size(), 103U);
+  EXPECT_EQ(dark.size(), 21U);
+}
+
+TEST(Artwork, BadgesDecodeAndReachTheirEdges) {
+  for (const Badge& badge : badges()) {
+    const Png picture(badge.name);
+    ASSERT_TRUE(picture.decoded()) << badge.name;
+    int left = picture.width(), right = 0, top = picture.height(), bottom = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+      for (int x = 0; x < picture.width(); ++x) {
+        if (picture.alphaAt(x, y) < 0.1) continue;
+        left = std::min(left, x), right = std::max(right, x), top = std::min(top, y), bottom = std::max(bottom, y);
+      }
+    }
+    EXPECT_GE(right - left, 0.9 * picture.width()) << badge.name;
+    EXPECT_GE(bottom - top, 0.9 * picture.height()) << badge.name;
+    EXPECT_EQ(picture.alphaAt(0, 0), 0) << badge.name << " has no clear corner";
+  }
+}
+
+TEST(Artwork, DayNumbersAreReadableOnTheirBadges) {
+  for (const Badge& badge : badges()) {
+    const Png picture(badge.name);
+    ASSERT_TRUE(picture.decoded()) << badge.name;
+    const Rgb ground = middleOf(picture, badge.dark ? darkPaper : lightPaper);
+    EXPECT_GE(contrast(ground, inkOn(ground, badge.dark)), 4.5) << badge.name;
+  }
+}
+
+TEST(Artwork, BadgesStandOutFromThePaperAndFromTheirNeighbours) {
+  const auto distance = [](const Rgb& a, const Rgb& b) { return std::hypot(a[0] - b[0], a[1] - b[1], a[2] - b[2]); };
+  const std::vector<Badge> all = badges();
+  Rgb before = lightPaper;
+  for (const Badge& badge : all) {
+    const Png picture(badge.name);
+    ASSERT_TRUE(picture.decoded()) << badge.name;
+    const Rgb paper = badge.dark ? darkPaper : lightPaper, ground = middleOf(picture, paper);
+    EXPECT_GE(distance(ground, paper), 0.12) << badge.name;
+    EXPECT_GE(distance(ground, before), 0.08) << badge.name << " looks like the badge before it";
+    before = ground;
+  }
+}
+
+TEST(Artwork, PaperIsOpaqueAndCalm) {
+  for (const bool dark : {false, true}) {
+    const Png sheet(dark ? "paper1new_widget~dark" : "paper1new_widget");
+    ASSERT_TRUE(sheet.decoded());
+    ASSERT_TRUE(sheet.opaque());
+    const Rgb paper = dark ? darkPaper : lightPaper;
+    double furthest = 0;
+    for (int y = 0; y < sheet.height(); ++y) {
+      for (int x = 0; x < sheet.width(); ++x) {
+        const Rgb here = sheet.over(paper, x, y);
+        for (std::size_t channel = 0; channel < 3; ++channel) {
+          furthest = std::max(furthest, std::abs(here[channel] - paper[channel]));
+        }
+      }
+    }
+    EXPECT_LE(furthest * 255, 4) << (dark ? "dark" : "light");
+    EXPECT_GE(furthest * 255, 1) << (dark ? "dark" : "light") << " is flat";
+  }
+}
+
+}  // namespace
