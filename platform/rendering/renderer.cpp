@@ -32,7 +32,9 @@ swiftui::TextLayout Renderer::layoutText(const std::string& content, const swift
   return text_->layoutText(content, style, proposal);
 }
 
-swiftui::FontMetrics Renderer::fontMetrics(const swiftui::Font& font) const { return text_->fontMetrics(font); }
+swiftui::FontMetrics Renderer::fontMetrics(const swiftui::Font& font) const {
+  return text_->fontMetrics(font);
+}
 
 swiftui::Size Renderer::imageSize(const swiftui::ImageElement& image) const {
   return assets_->size({.name = image.name, .isSymbol = image.isSymbol, .colorScheme = image.paint.colorScheme});

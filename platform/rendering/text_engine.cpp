@@ -56,8 +56,8 @@ double lineWidth(PangoLayoutLine* line) {
 
 void setWidth(PangoLayout* paragraph, std::optional<double> width) {
   if (!width || std::isinf(*width)) return;
-  // A hair more, so that a text fits into the width that it was measured with.
-  pango_layout_set_width(paragraph, static_cast<int>(std::ceil((*width + tolerance) * PANGO_SCALE)));
+  // Pango counts in whole units: to the next one, so that a text fits into the width that it was measured with.
+  pango_layout_set_width(paragraph, static_cast<int>(std::ceil(*width * PANGO_SCALE - tolerance)));
   pango_layout_set_wrap(paragraph, PANGO_WRAP_WORD_CHAR);
 }
 
@@ -99,7 +99,13 @@ TextLine truncatedLine(const GlyphText& glyphs, std::string content, bool contin
   pango_layout_set_ellipsize(paragraph.get(), PANGO_ELLIPSIZE_END);
   setWidth(paragraph.get(), width);
   PangoLayoutLine* line = pango_layout_get_line_readonly(paragraph.get(), 0);
-  if (const auto cut = cutPosition(line)) content = content.substr(0, *cut) + std::string(ellipsis);
+  if (const auto cut = cutPosition(line)) {
+    // No blank is left standing before the ellipsis.
+    const std::size_t last = content.find_last_not_of(' ', *cut == 0 ? 0 : *cut - 1);
+    content = content.substr(0, last == std::string::npos ? 0 : last + 1) + std::string(ellipsis);
+    const auto shortened = glyphs.paragraph(content, style);
+    return {.content = content, .width = lineWidth(pango_layout_get_line_readonly(shortened.get(), 0))};
+  }
   return {.content = content, .width = lineWidth(line)};
 }
 

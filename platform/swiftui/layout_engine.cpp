@@ -20,9 +20,12 @@ double roundedToPixel(double points, double scale) {
 LayoutResult layoutText(const LayoutEngine& engine, const TextElement& text, ProposedSize proposal) {
   auto layout = std::make_shared<const TextLayout>(engine.measurer().layoutText(text.content, text.style, proposal));
   const double scale = engine.displayScale();
+  // A text that fits does not outgrow its proposal by being rounded to pixels.
+  const double limit = std::max(layout->width(), proposal.width.value_or(infinity));
   const double ascent = layout->metrics.ascent;
   const double aboveLastLine = layout->height() - layout->metrics.lineHeight();
-  return {.size = {.width = roundedUp(layout->width(), scale), .height = roundedUp(layout->height(), scale)},
+  return {.size = {.width = std::min(roundedUp(layout->width(), scale), limit),
+                   .height = roundedUp(layout->height(), scale)},
           .firstBaseline = roundedToPixel(ascent, scale),
           .lastBaseline = roundedUp(aboveLastLine + ascent, scale),
           .children = {},

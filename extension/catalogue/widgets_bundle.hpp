@@ -1,0 +1,21 @@
+#pragma once
+
+#include <filesystem>
+#include <vector>
+
+#include "uikit/platform.hpp"
+#include "widgetkit/static_configuration.hpp"
+
+namespace mirune {
+
+/// All that the extension offers.
+class Mirune_WidgetsColl {
+ public:
+  /// Makes the custom fonts known, before any widget is built.
+  explicit Mirune_WidgetsColl(const std::filesystem::path& resources);
+
+  /// The widgets in the gallery's order.
+  std::vector<widgetkit::StaticConfiguration> body(const uikit::Platform& platform) const;
+};
+
+}  // namespace mirune

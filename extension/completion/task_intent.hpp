@@ -1,0 +1,24 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "appintents/app_intent.hpp"
+
+namespace mirune {
+
+/// "Mark Task Complete": what a tap on a check box performs, without opening the planner.
+struct TaskIntent {
+  static constexpr std::string_view name = "TaskIntent";
+  static constexpr std::string_view title = "Mark Task Complete";
+
+  std::string id = {};                                  ///< of the item
+  std::optional<foundation::Date> date = std::nullopt;  ///< the day that it is marked for; absent takes the mark back
+
+  std::vector<appintents::IntentParameter> parameters() const {
+    return {{.title = "id", .value = id}, {.title = "date", .value = date}};
+  }
+};
+
+}  // namespace mirune

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "foundation/date.hpp"
+#include "uikit/platform.hpp"
+
+namespace mirune {
+
+/// The items that were ticked on a widget, by id, with the date that the widget gave. Which date it is does not matter:
+/// an item that is here counts as done.
+using OverrideState = std::map<std::string, foundation::Date>;
+
+/// The two files of the container that hold the state. Both are written alike; timelines read the second one.
+inline constexpr std::string_view overrideFile = "interactive-widgets-state.json";
+inline constexpr std::string_view timelineOverrideFile = "interactive-widgets-state2.json";
+
+/// The state as timelines see it, read afresh; empty where the file is missing or does not decode. What was read goes
+/// to the debug log.
+OverrideState readOverrideState(const uikit::Platform& platform);
+
+/// Looks items up in an override state. An id counts in either case of its letters where it is a UUID, for a widget's
+/// row carries the UUID, which prints in upper case, while the planner may write lower case.
+class OverrideLookup {
+ public:
+  explicit OverrideLookup(const OverrideState& state);
+  bool contains(std::string_view id) const;
+
+ private:
+  std::vector<std::string> ids_;  ///< sorted; UUIDs in upper case
+};
+
+}  // namespace mirune

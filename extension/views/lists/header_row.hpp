@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "swiftui/view.hpp"
+
+namespace mirune {
+
+/// A list's title with the badge of its day.
+struct HeaderRow {
+  std::string name = {};
+  std::int64_t image = 0;
+  foundation::Date date = {};
+
+  swiftui::View body(const swiftui::EnvironmentValues& environment) const;
+};
+
+}  // namespace mirune
