@@ -25,9 +25,9 @@ struct Catalogue {
 
 /// Entries and when to ask again.
 struct Timeline {
-  std::string kind = {};                             ///< the kind identifier
-  foundation::JSON policy = "never";                 ///< "atEnd", "never" or {"after": MOMENT}
-  std::vector<foundation::JSON> entries = {};        ///< each with a "date": a MOMENT
+  std::string kind = {};                       ///< the kind identifier
+  foundation::JSON policy = "never";           ///< "atEnd", "never" or {"after": MOMENT}
+  std::vector<foundation::JSON> entries = {};  ///< each with a "date": a MOMENT
   friend bool operator==(const Timeline&, const Timeline&) = default;
 };
 
