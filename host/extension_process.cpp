@@ -130,12 +130,7 @@ std::expected<messages::Reply, std::string> ExtensionProcess::exchange(const mes
   };
 
   messages::Channel channel(running_->connection.get());
-  try {
-    if (const auto sent = channel.send(envelope, {}, deadline); !sent) return failed(sent.error());
-  } catch (const foundation::JSON::exception&) {
-    return std::unexpected("the request holds text that is not UTF-8");
-  }
-
+  if (const auto sent = channel.send(envelope, {}, deadline); !sent) return failed(sent.error());
   auto frame = channel.receive(deadline);
   if (!frame) return failed(frame.error());
   try {

@@ -54,15 +54,15 @@ Command demoCommand() {
       .summary = "Write a sample container around today",
       .declare = [](CLI::App& app, const Surroundings& surroundings) -> std::function<Outcome()> {
         auto demo = std::make_shared<Demo>(surroundings);
-        auto* folder = app.add_option("folder", demo->folder, "Where to write (else the default container)");
-        folder->option_text("DIR");
-        app.add_option("--container", demo->folder, "The same as DIR")->type_name("FOLDER")->excludes(folder);
+        auto* folder = app.add_option("DIR", demo->folder, "Where to write (else the default container)");
+        folder->option_text(" ");
+        app.add_option("--container", demo->folder, "The same as DIR")->option_text("FOLDER")->excludes(folder);
         app.add_option("--now", demo->now, "A moment of the demo's today, as 2026-11-21T08:00:00Z (else the clock's)")
             ->type_name("MOMENT");
         app.add_option("--timezone", demo->timeZone, "Time zone of its days, as Europe/Berlin (else the system's)")
             ->type_name("NAME");
         app.add_option("--theme", demo->theme, "Set the planner's theme too")
-            ->type_name("light|dark")
+            ->option_text("light|dark")
             ->check(CLI::IsMember(std::vector<std::string>(themes.begin(), themes.end())));
         app.add_flag("--keep", demo->keep, "Do nothing where there is a container that is not a demo of a past day");
         return [demo] { return demo->run(); };

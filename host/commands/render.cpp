@@ -103,16 +103,16 @@ Command renderCommand() {
           .summary = "Draw one widget into a file",
           .declare = [](CLI::App& app, const Surroundings& surroundings) -> std::function<Outcome()> {
             auto render = std::make_shared<Render>(surroundings);
-            app.add_option("kind", render->kind, "Kind of widget: its identifier or short name (see mirune gallery)")
+            app.add_option("KIND", render->kind, "Kind of widget: its identifier or short name (see mirune gallery)")
                 ->required()
-                ->option_text("KIND");
-            app.add_option("family", render->family, "Size class: systemSmall, systemMedium, accessoryCircular, …")
+                ->option_text(" ");
+            app.add_option("FAMILY", render->family, "Size class: systemSmall, systemMedium, accessoryCircular, …")
                 ->required()
-                ->option_text("FAMILY");
+                ->option_text(" ");
             app.add_option("-o,--output", render->file,
                            "The file; its ending chooses picture (.png), plain text (.txt) or placed elements (.json)")
                 ->required()
-                ->type_name("FILE");
+                ->option_text("FILE");
             app.add_option("--at", render->at, "Moment at which the widget is seen (else --now); picks the entry")
                 ->type_name("MOMENT");
             app.add_option("--scale", render->scale, "Pixels per point, 0.1 to 10 (else 2)")->type_name("N");

@@ -35,10 +35,9 @@ Command entriesCommand(messages::ProviderOperation operation, std::string name, 
           .summary = std::move(summary),
           .declare = [operation](CLI::App& app, const Surroundings& surroundings) -> std::function<Outcome()> {
             auto entries = std::make_shared<Entries>(operation, surroundings);
-            app.add_option("kind", entries->kind, "Kind of widget: its identifier or short name (see mirune gallery)")
+            app.add_option("KIND", entries->kind, "Kind of widget: its identifier or short name (see mirune gallery)")
                 ->required()
-                ->type_name("")
-                ->option_text("KIND");
+                ->option_text(" ");
             app.add_flag("--json", entries->asJSON, "Print JSON instead of a listing");
             entries->device.addTo(app);
             return [entries] { return entries->run(); };

@@ -1,7 +1,10 @@
 #include "host/commands/world_options.hpp"
 
 #include <filesystem>
+#include <tuple>
 
+#include "foundation/json.hpp"
+#include "host/commands/command.hpp"
 #include "host/commands/moment.hpp"
 
 namespace host {
@@ -11,6 +14,15 @@ namespace {
 /// The extension may run in another folder; an empty path stays empty: no container.
 std::string absolutePath(const std::string& path) {
   return path.empty() ? path : std::filesystem::absolute(path).string();
+}
+
+bool isUTF8(const std::string& text) {
+  try {
+    std::ignore = foundation::JSON(text).dump();
+    return true;
+  } catch (const foundation::JSON::exception&) {
+    return false;
+  }
 }
 
 }  // namespace
@@ -38,6 +50,7 @@ void WorldOptions::addTo(CLI::App& app) {
 std::expected<messages::World, messages::Failure> WorldOptions::world() const {
   const auto now = moment("--now", now_, world_.now);
   if (!now) return std::unexpected(now.error());
+  if (!isUTF8(world_.container)) return usage("the container's path is not UTF-8 text");
   auto world = world_;
   world.now = *now;
   world.container = absolutePath(world.container);

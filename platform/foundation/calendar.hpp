@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 
 #include "foundation/date.hpp"
 #include "foundation/locale.hpp"

@@ -2,13 +2,17 @@
 
 #include <cstdint>
 #include <expected>
+#include <functional>
 #include <map>
-#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "foundation/date.hpp"
+#include "foundation/decoding_error.hpp"
+#include "foundation/json_members.hpp"
+#include "foundation/json_value.hpp"
 
 // Decoding of the planner's files. A record says once how its members are called:
 //
@@ -27,15 +31,40 @@
 
 namespace foundation {
 
-/// Why and where a text was refused.
-struct DecodingError {
-  std::string path = {};    ///< "2026/11/21[3].calid"; empty for the text as a whole
-  std::string reason = {};  ///< "missing"
+void decode(JSONValue value, std::string& text);
+void decode(JSONValue value, bool& boolean);
+void decode(JSONValue value, std::int64_t& integer);
+void decode(JSONValue value, Date& date);
 
-  /// "2026/11/21[3].calid: missing".
-  std::string message() const { return path.empty() ? reason : path + ": " + reason; }
-};
+template <class Element>
+void decode(JSONValue value, std::vector<Element>& elements) {
+  elements.clear();
+  value.forEachElement([&](JSONValue element) { decode(element, elements.emplace_back()); });
+}
 
-// The rest of the declarations belong to the implementation (see above for what must be there).
+template <class Mapped, class Compare>
+void decode(JSONValue value, std::map<std::string, Mapped, Compare>& members) {
+  members.clear();
+  value.forEachMember([&](std::string_view key, JSONValue member) {
+    Mapped mapped = {};
+    decode(member, mapped);
+    members.try_emplace(std::string(key), std::move(mapped));
+  });
+}
+
+/// Parses a text and hands its value to `body`, which must read it. Throws DecodingError.
+void readJSON(std::string_view bytes, const std::function<void(JSONValue)>& body);
+
+/// Decodes a whole text, or says where it does not fit.
+template <class T>
+std::expected<T, DecodingError> decodeJSON(std::string_view bytes) {
+  T result = {};
+  try {
+    readJSON(bytes, [&](JSONValue value) { decode(value, result); });
+  } catch (DecodingError& error) {
+    return std::unexpected(std::move(error));
+  }
+  return result;
+}
 
 }  // namespace foundation

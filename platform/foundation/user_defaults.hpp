@@ -11,6 +11,8 @@
 
 namespace foundation {
 
+class PropertyList;
+
 /// A suite of settings: a property list, XML or binary, at CONTAINER/Library/Preferences/SUITE.plist.
 class UserDefaults {
  public:
@@ -31,7 +33,6 @@ class UserDefaults {
   void set(std::string_view key, bool value);
 
  private:
-  struct PropertyList;
   UserDefaults(std::filesystem::path path, std::shared_ptr<PropertyList> list);
 
   std::filesystem::path path_;

@@ -52,11 +52,12 @@ TEST_F(CommandLine, SaysInOneLineWhatIsWrong) {
   const Case cases[] = {
       {"dance", 2, "dance"},
       {"--dance", 2, "--dance"},
-      {"timeline", 2, "kind is required"},
+      {"timeline", 2, "KIND is required"},
       {"timeline tasks more", 2, "more"},
       {"timeline gallery moods", 2, "moods"},
       {"gallery --screen", 2, "--screen"},
       {"gallery --system-version x", 2, "--system-version"},
+      {"gallery --container $(printf '\\377')", 2, "the container's path is not UTF-8 text"},
       {"gallery --now yesterday", 2, "--now: 'yesterday' is not a moment such as 2026-11-21T08:00:00Z"},
       {"timeline unknown", 2, "unknown kind 'unknown': tasks, moods"},
       {"timeline broken", 1, "a file is broken"},

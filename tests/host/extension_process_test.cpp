@@ -105,10 +105,4 @@ TEST(ExtensionProcess, ThatIsMissingIsNamed) {
             "the widget extension cannot be started: /nowhere/mirune-extension: No such file or directory");
 }
 
-TEST(ExtensionProcess, IsNotAskedWhatCannotBeSaid) {
-  auto extension = fake();
-  EXPECT_EQ(told(extension.ask(askFor("\xff"))), "the request holds text that is not UTF-8");
-  EXPECT_EQ(told(extension.ask(askFor("tasks"))), "2 entries");
-}
-
 }  // namespace

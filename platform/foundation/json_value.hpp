@@ -1,0 +1,89 @@
+#pragma once
+
+#include <simdjson.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "foundation/decoding_error.hpp"
+
+namespace foundation {
+
+/// A value of a JSON text that is being decoded. Each value is read once, in the order of the text.
+///
+/// What does not fit throws a DecodingError; each object and array that the error leaves adds its key or place to the
+/// path, so that reading good texts pays nothing for it. decodeJSON catches it: nobody else needs to.
+class JSONValue {
+ public:
+  JSONValue(simdjson::ondemand::value value, int depth) : value_(value), depth_(depth) {}
+
+  bool isNull();
+  /// A text without its escapes. Valid until the decoding ends.
+  std::string_view text();
+  /// A whole number: 1, 1.0, 10e-1.
+  std::int64_t integer();
+  bool boolean();
+
+  /// Calls `body(std::string_view key, JSONValue member)` for each member of an object; every member must be read or
+  /// skipped.
+  template <class Body>
+  void forEachMember(Body body);
+  /// Calls `body(JSONValue element)` for each element of an array; every element must be read or skipped.
+  template <class Body>
+  void forEachElement(Body body);
+
+  /// Walks a value that nobody wants: it may be anything, but it must be JSON.
+  void skip();
+
+  /// Refuses the text because of this value.
+  [[noreturn]] void fail(std::string reason) const;
+
+ private:
+  /// The value's text without the blanks behind it; of objects and arrays the bracket.
+  std::string_view token();
+  [[noreturn]] void failExpecting(std::string_view reason);
+  simdjson::ondemand::object enterObject();
+  simdjson::ondemand::array enterArray();
+  static void check(simdjson::error_code error);
+  static std::string_view keyText(simdjson::ondemand::field& field);
+
+  simdjson::ondemand::value value_;
+  int depth_;  ///< of how many objects and arrays it is part
+};
+
+template <class Body>
+void JSONValue::forEachMember(Body body) {
+  simdjson::ondemand::object object = enterObject();
+  for (auto result : object) {
+    simdjson::ondemand::field field;
+    check(std::move(result).get(field));
+    const std::string_view key = keyText(field);
+    try {
+      body(key, JSONValue(field.value(), depth_ + 1));
+    } catch (DecodingError& error) {
+      moveIntoMember(error, key);
+      throw;
+    }
+  }
+}
+
+template <class Body>
+void JSONValue::forEachElement(Body body) {
+  simdjson::ondemand::array array = enterArray();
+  std::size_t index = 0;
+  for (auto result : array) {
+    simdjson::ondemand::value element;
+    check(std::move(result).get(element));
+    try {
+      body(JSONValue(element, depth_ + 1));
+    } catch (DecodingError& error) {
+      moveIntoElement(error, index);
+      throw;
+    }
+    ++index;
+  }
+}
+
+}  // namespace foundation

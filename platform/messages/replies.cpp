@@ -1,0 +1,75 @@
+#include "messages/replies.hpp"
+
+#include "messages/fields.hpp"
+
+namespace messages {
+
+using foundation::JSON;
+
+namespace {
+
+constexpr Texts<Failure::Reason, 2> reasonTexts = {
+    {{"usage", Failure::Reason::usage}, {"failed", Failure::Reason::failed}}};
+
+constexpr const char* failure = "failure";
+constexpr const char* catalogue = "catalogue";
+constexpr const char* timeline = "timeline";
+constexpr const char* picture = "picture";
+
+JSON widgetJSON(const WidgetDescription& widget) {
+  return {{"kind", widget.kind},
+          {"shortName", widget.shortName},
+          {"displayName", widget.displayName},
+          {"description", widget.description},
+          {"families", JSON(widget.families)}};
+}
+
+WidgetDescription widgetFrom(const JSON& json) {
+  return {.kind = field<std::string>(json, "kind"),
+          .shortName = field<std::string>(json, "shortName"),
+          .displayName = field<std::string>(json, "displayName"),
+          .description = field<std::string>(json, "description"),
+          .families = field<std::vector<std::string>>(json, "families")};
+}
+
+struct ToJSON {
+  JSON operator()(const Failure& reply) const {
+    return {{"reply", failure}, {"reason", textOf(reply.reason, reasonTexts)}, {"message", reply.message}};
+  }
+  JSON operator()(const Catalogue& reply) const {
+    JSON widgets = JSON::array();
+    for (const WidgetDescription& widget : reply.widgets) widgets.push_back(widgetJSON(widget));
+    return {{"reply", catalogue}, {"widgets", std::move(widgets)}};
+  }
+  JSON operator()(const Timeline& reply) const {
+    return {{"reply", timeline}, {"kind", reply.kind}, {"policy", reply.policy}, {"entries", JSON(reply.entries)}};
+  }
+  JSON operator()(const Picture&) const { return {{"reply", picture}}; }
+};
+
+}  // namespace
+
+void to_json(JSON& json, const Reply& reply) {
+  json = std::visit(ToJSON(), reply);
+}
+
+void from_json(const JSON& json, Reply& reply) {
+  const auto name = field<std::string>(json, "reply");
+  if (name == failure) {
+    reply = Failure{.reason = enumField(json, "reason", reasonTexts), .message = field<std::string>(json, "message")};
+  } else if (name == catalogue) {
+    Catalogue read;
+    for (const JSON& widget : field<std::vector<JSON>>(json, "widgets")) read.widgets.push_back(widgetFrom(widget));
+    reply = std::move(read);
+  } else if (name == timeline) {
+    reply = Timeline{.kind = field<std::string>(json, "kind"),
+                     .policy = json.at("policy"),
+                     .entries = field<std::vector<JSON>>(json, "entries")};
+  } else if (name == picture) {
+    reply = Picture{};
+  } else {
+    failField(json, "reply", "none of the known ones");
+  }
+}
+
+}  // namespace messages

@@ -1,0 +1,65 @@
+#include "messages/requests.hpp"
+
+#include "messages/fields.hpp"
+
+namespace messages {
+
+using foundation::JSON;
+
+namespace {
+
+constexpr Texts<ProviderOperation, 3> operationTexts = {{{"placeholder", ProviderOperation::placeholder},
+                                                         {"snapshot", ProviderOperation::snapshot},
+                                                         {"timeline", ProviderOperation::timeline}}};
+
+constexpr Texts<PictureFormat, 3> formatTexts = {
+    {{"png", PictureFormat::png}, {"text", PictureFormat::text}, {"json", PictureFormat::json}}};
+
+constexpr const char* describeCatalogue = "describeCatalogue";
+constexpr const char* askProvider = "askProvider";
+constexpr const char* drawEntry = "drawEntry";
+
+struct ToJSON {
+  JSON operator()(const DescribeCatalogue&) const { return {{"request", describeCatalogue}}; }
+  JSON operator()(const AskProvider& request) const {
+    return {{"request", askProvider}, {"operation", textOf(request.operation, operationTexts)}, {"kind", request.kind}};
+  }
+  JSON operator()(const DrawEntry& request) const {
+    return {{"request", drawEntry},
+            {"kind", request.kind},
+            {"family", request.family},
+            {"entry", request.entry},
+            {"format", textOf(request.format, formatTexts)},
+            {"scale", request.scale}};
+  }
+};
+
+Request requestFrom(const JSON& json) {
+  const auto name = field<std::string>(json, "request");
+  if (name == describeCatalogue) return DescribeCatalogue{};
+  if (name == askProvider) {
+    return AskProvider{.operation = enumField(json, "operation", operationTexts),
+                       .kind = field<std::string>(json, "kind")};
+  }
+  if (name == drawEntry) {
+    return DrawEntry{.kind = field<std::string>(json, "kind"),
+                     .family = field<std::string>(json, "family"),
+                     .entry = json.at("entry"),
+                     .format = enumField(json, "format", formatTexts),
+                     .scale = field<double>(json, "scale")};
+  }
+  failField(json, "request", "none of the known ones");
+}
+
+}  // namespace
+
+void to_json(JSON& json, const Envelope& envelope) {
+  json = std::visit(ToJSON(), envelope.request);
+  json["world"] = envelope.world;
+}
+
+void from_json(const JSON& json, Envelope& envelope) {
+  envelope = {.world = json.at("world").get<World>(), .request = requestFrom(json)};
+}
+
+}  // namespace messages
