@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstring>
+#include <optional>
 #include <sstream>
 
 #include "host/child_process.hpp"
@@ -67,12 +68,11 @@ std::string seconds(std::chrono::milliseconds duration) {
 }  // namespace
 
 struct ExtensionProcess::Running {
-  Running(FileDescriptor ours, FileDescriptor errorPipe, pid_t id)
-      : connection(std::move(ours)), errors(std::move(errorPipe)), child(id) {}
+  Running(FileDescriptor ours, FileDescriptor errorPipe) : connection(std::move(ours)), errors(std::move(errorPipe)) {}
 
   FileDescriptor connection;
   LastLineReader errors;
-  ChildProcess child;
+  std::optional<ChildProcess> child;
 };
 
 ExtensionProcess::ExtensionProcess(Options options) : options_(std::move(options)) {}
@@ -97,9 +97,11 @@ std::expected<void, std::string> ExtensionProcess::start() {
   FileDescriptor reading(pipe[0]);
   const FileDescriptor writing(pipe[1]);
 
+  auto running = std::make_unique<Running>(std::move(ours), std::move(reading));
   const auto id = spawn(options_.program, theirs.get(), writing.get());
   if (!id) return failed(id.error());
-  running_ = std::make_unique<Running>(std::move(ours), std::move(reading), *id);
+  running->child.emplace(*id);
+  running_ = std::move(running);
   return {};
 }
 
@@ -144,15 +146,15 @@ std::expected<messages::Reply, std::string> ExtensionProcess::exchange(const mes
 
 std::string ExtensionProcess::whyStopped() {
   running_->connection.close();
-  if (!running_->child.waitFor(timeToEnd)) running_->child.kill();
+  if (!running_->child->waitFor(timeToEnd)) running_->child->kill();
   if (auto line = running_->errors.finish(); !line.empty()) return line;
-  return running_->child.ending().value_or("it closed the connection");
+  return running_->child->ending().value_or("it closed the connection");
 }
 
 void ExtensionProcess::stop() {
   if (!running_) return;
   running_->connection.close();
-  running_->child.waitFor(timeToEnd);
+  running_->child->waitFor(timeToEnd);
   running_.reset();
 }
 
