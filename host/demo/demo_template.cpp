@@ -1,7 +1,7 @@
 #include "host/demo/demo_template.hpp"
 
+#include <algorithm>
 #include <optional>
-#include <regex>
 
 #include "foundation/calendar.hpp"
 #include "foundation/iso8601.hpp"
@@ -16,19 +16,52 @@ constexpr std::size_t shownLength = 24;
 bool isLetter(char c) {
   return ('a' <= c && c <= 'z') || ('A' <= c && c <= 'Z');
 }
+bool isDigit(char c) {
+  return '0' <= c && c <= '9';
+}
 
-std::optional<std::string> value(const std::string& placeholder, foundation::Date now,
-                                 const foundation::Calendar& calendar) {
-  static const std::regex form(R"(\{(?:day([+-]\d{1,5})|time([+-]\d{1,5}) (\d\d):(\d\d))\})");
-  std::smatch parts;
-  if (!std::regex_match(placeholder, parts, form)) return std::nullopt;
+/// Takes a text off the front of another, where it stands there.
+bool take(std::string_view& rest, std::string_view prefix) {
+  if (!rest.starts_with(prefix)) return false;
+  rest.remove_prefix(prefix.size());
+  return true;
+}
 
-  const bool isTime = parts[2].matched;
-  const auto day = calendar.dateByAdding(foundation::CalendarComponent::day, std::stoi(parts[isTime ? 2 : 1]),
-                                         calendar.startOfDay(now));
+/// Takes a number of `least` to `most` digits off the front.
+std::optional<int> takeNumber(std::string_view& rest, std::size_t least, std::size_t most) {
+  int number = 0;
+  std::size_t length = 0;
+  for (; length < most && length < rest.size() && isDigit(rest[length]); ++length) {
+    number = number * 10 + (rest[length] - '0');
+  }
+  if (length < least) return std::nullopt;
+  rest.remove_prefix(length);
+  return number;
+}
+
+std::optional<int> takeDays(std::string_view& rest) {
+  const bool isBefore = take(rest, "-");
+  if (!isBefore && !take(rest, "+")) return std::nullopt;
+  const auto days = takeNumber(rest, 1, 5);
+  return days && isBefore ? -*days : days;
+}
+
+/// What a placeholder such as "{day+0}" or "{time+1 09:30}" stands for; nothing for any other text.
+std::optional<std::string> value(std::string_view rest, foundation::Date now, const foundation::Calendar& calendar) {
+  const bool isTime = take(rest, "{time");
+  if (!isTime && !take(rest, "{day")) return std::nullopt;
+  const auto days = takeDays(rest);
+  if (!days) return std::nullopt;
+  const auto day = calendar.dateByAdding(foundation::CalendarComponent::day, *days, calendar.startOfDay(now));
   if (!day) return std::nullopt;
-  if (!isTime) return foundation::dayKey(*day, calendar.timeZone());
-  const auto time = calendar.dateBySettingHour(std::stoi(parts[3]), std::stoi(parts[4]), 0, *day);
+  if (!isTime) return rest == "}" ? std::optional(foundation::dayKey(*day, calendar.timeZone())) : std::nullopt;
+
+  if (!take(rest, " ")) return std::nullopt;
+  const auto hour = takeNumber(rest, 2, 2);
+  if (!hour || !take(rest, ":")) return std::nullopt;
+  const auto minute = takeNumber(rest, 2, 2);
+  if (!minute || rest != "}") return std::nullopt;
+  const auto time = calendar.dateBySettingHour(*hour, *minute, 0, *day);
   return time ? std::optional(foundation::formatISO8601(*time)) : std::nullopt;
 }
 
@@ -47,9 +80,9 @@ std::expected<std::string, std::string> expandTemplate(std::string_view text, fo
     if (end == std::string_view::npos || text[end] == '\n') {
       return std::unexpected(std::string(text.substr(index, std::min(end - index, shownLength))));
     }
-    const std::string placeholder(text.substr(index, end + 1 - index));
+    const auto placeholder = text.substr(index, end + 1 - index);
     const auto replacement = value(placeholder, now, calendar);
-    if (!replacement) return std::unexpected(placeholder);
+    if (!replacement) return std::unexpected(std::string(placeholder));
     result += *replacement;
     index = end + 1;
   }

@@ -53,20 +53,19 @@ INSTANTIATE_TEST_SUITE_P(
                     Case{"2018-11-04T12:00:00Z", "America/Sao_Paulo", "{time+0 00:00} {day+1}",
                          "2018-11-04T03:00:00Z 2018/11/05"}));
 
-INSTANTIATE_TEST_SUITE_P(OtherBraces, DemoTemplate,
-                         testing::Values(Case{autumn, "UTC", "", ""}, Case{autumn, "UTC", "{", "{"},
-                                         Case{autumn, "UTC", "}{}{", "}{}{"},
-                                         Case{autumn, "UTC", R"({"{day+0}": [{ }]})", R"({"2026/11/21": [{ }]})"},
-                                         Case{autumn, "UTC", "{\n  \"a\": 1}", "{\n  \"a\": 1}"},
-                                         Case{autumn, "UTC", "a {name} b", "? {name}"},
-                                         Case{autumn, "UTC", "{day}", "? {day}"},
-                                         Case{autumn, "UTC", "{day 1}", "? {day 1}"},
-                                         Case{autumn, "UTC", "{day+1000000}", "? {day+1000000}"},
-                                         Case{autumn, "UTC", "{Day+1}", "? {Day+1}"},
-                                         Case{autumn, "UTC", "{time+0 24:00}", "? {time+0 24:00}"},
-                                         Case{autumn, "UTC", "{time+0 9:30}", "? {time+0 9:30}"},
-                                         Case{autumn, "UTC", "{time+0 09:60}", "? {time+0 09:60}"},
-                                         Case{autumn, "UTC", "\"{day+0\": 1,\n}", "? {day+0\": 1,"},
-                                         Case{autumn, "UTC", "{day+0", "? {day+0"}));
+INSTANTIATE_TEST_SUITE_P(
+    OtherBraces, DemoTemplate,
+    testing::Values(
+        Case{autumn, "UTC", "", ""}, Case{autumn, "UTC", "{", "{"}, Case{autumn, "UTC", "}{}{", "}{}{"},
+        Case{autumn, "UTC", R"({"{day+0}": [{ }]})", R"({"2026/11/21": [{ }]})"},
+        Case{autumn, "UTC", "{\n  \"a\": 1}", "{\n  \"a\": 1}"}, Case{autumn, "UTC", "a {name} b", "? {name}"},
+        Case{autumn, "UTC", "{day}", "? {day}"}, Case{autumn, "UTC", "{day 1}", "? {day 1}"},
+        Case{autumn, "UTC", "{day+}", "? {day+}"}, Case{autumn, "UTC", "{day+1 09:30}", "? {day+1 09:30}"},
+        Case{autumn, "UTC", "{time+1}", "? {time+1}"}, Case{autumn, "UTC", "{time+1 09:30:00}", "? {time+1 09:30:00}"},
+        Case{autumn, "UTC", "{day+1000000}", "? {day+1000000}"}, Case{autumn, "UTC", "{Day+1}", "? {Day+1}"},
+        Case{autumn, "UTC", "{time+0 24:00}", "? {time+0 24:00}"},
+        Case{autumn, "UTC", "{time+0 9:30}", "? {time+0 9:30}"},
+        Case{autumn, "UTC", "{time+0 09:60}", "? {time+0 09:60}"},
+        Case{autumn, "UTC", "\"{day+0\": 1,\n}", "? {day+0\": 1,"}, Case{autumn, "UTC", "{day+0", "? {day+0"}));
 
 }  // namespace
