@@ -7,9 +7,13 @@
 #include <vector>
 
 #include "foundation/json.hpp"
-#include "temporary_folder.hpp"
+#include "support/temporary_folder.hpp"
 
 namespace {
+
+using support::readBytes;
+using support::TemporaryFolder;
+using support::writeBytes;
 
 using foundation::JSON;
 
@@ -30,8 +34,8 @@ class CommandLine : public testing::Test {
                                 MIRUNE_PROGRAM " " + arguments + " 2>error " + redirection;
     const int status = std::system(command.c_str());
     return {.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1,
-            .output = folder.read("output"),
-            .error = folder.read("error")};
+            .output = readBytes(folder / "output"),
+            .error = readBytes(folder / "error")};
   }
 
   JSON runForJSON(const std::string& arguments) const {
@@ -87,7 +91,7 @@ TEST_F(CommandLine, SaysInOneLineWhatIsWrong) {
     EXPECT_NE(result.error.find(each.error), std::string::npos) << each.arguments << ": " << result.error;
     EXPECT_EQ(result.error.find('\n'), result.error.size() - 1) << result.error;
   }
-  EXPECT_EQ(folder.read("a.png"), "(none)");
+  EXPECT_FALSE(std::filesystem::exists(folder / "a.png"));
 }
 
 TEST_F(CommandLine, HelpsOnStandardOutput) {
@@ -165,7 +169,7 @@ TEST_F(CommandLine, RendersTheEntryOfTheMoment) {
     const std::string file = std::string(each.arguments).find("f.TXT") != std::string::npos    ? "f.TXT"
                              : std::string(each.arguments).find("f.json") != std::string::npos ? "f.json"
                                                                                                : "f.png";
-    const auto request = JSON::parse(folder.read(file));
+    const auto request = JSON::parse(readBytes(folder / file));
     EXPECT_EQ(request["entry"]["title"], each.title) << each.arguments;
     EXPECT_EQ(request["family"], "systemSmall");
     EXPECT_EQ(request["format"], each.format);
@@ -193,18 +197,18 @@ TEST_F(CommandLine, IsQuietWhenTheReaderGoesAway) {
 }
 
 TEST_F(CommandLine, WritesADemo) {
-  folder.write("resources/demo/tasks.json", "{day+0}");
+  writeBytes(folder / "resources/demo/tasks.json", "{day+0}");
   const auto container = folder.path().string() + "/data/mirune/group.quorvanthimble.app";
   const auto result = run("demo --now 2026-11-21T23:30:00Z");
   EXPECT_EQ(result.exitCode, 0) << result.error;
   EXPECT_EQ(result.output, container + "\n");
-  EXPECT_EQ(folder.read("data/mirune/group.quorvanthimble.app/tasks.json"), "2026/11/22");
+  EXPECT_EQ(readBytes(folder / "data/mirune/group.quorvanthimble.app/tasks.json"), "2026/11/22");
   EXPECT_EQ(run("demo other --timezone UTC --now 2026-11-21T23:30:00Z").output, "other\n");
-  EXPECT_EQ(folder.read("other/tasks.json"), "2026/11/21");
-  folder.write("planner/tasks.json", "real");
+  EXPECT_EQ(readBytes(folder / "other/tasks.json"), "2026/11/21");
+  writeBytes(folder / "planner/tasks.json", "real");
   EXPECT_EQ(run("demo planner").exitCode, 1);
   EXPECT_EQ(run("demo planner --keep").output, "planner\n");
-  EXPECT_EQ(folder.read("planner/tasks.json"), "real");
+  EXPECT_EQ(readBytes(folder / "planner/tasks.json"), "real");
 }
 
 }  // namespace

@@ -5,9 +5,13 @@
 
 #include "foundation/iso8601.hpp"
 #include "foundation/user_defaults.hpp"
-#include "temporary_folder.hpp"
+#include "support/temporary_folder.hpp"
 
 namespace {
+
+using support::readBytes;
+using support::TemporaryFolder;
+using support::writeBytes;
 
 constexpr const char* today = "2026-11-21T08:00:00Z";
 constexpr const char* tomorrow = "2026-11-22T08:00:00Z";
@@ -15,9 +19,9 @@ constexpr const char* tomorrow = "2026-11-22T08:00:00Z";
 class DemoContainer : public testing::Test {
  protected:
   DemoContainer() {
-    templates.write("tasks.json", R"({"{day+0}": []})");
-    templates.write("events.json", R"({"{time+0 09:30}": []})");
-    templates.write("README.md", "{no placeholder}");
+    writeBytes(templates / "tasks.json", R"({"{day+0}": []})");
+    writeBytes(templates / "events.json", R"({"{time+0 09:30}": []})");
+    writeBytes(templates / "README.md", "{no placeholder}");
   }
 
   host::DemoContainer demo(const char* now) const {
@@ -40,57 +44,57 @@ TEST_F(DemoContainer, HoldsTheExpandedTemplatesAndAMarker) {
   auto deep = demo(today);
   deep.folder = folder.path() / "data" / "group";
   EXPECT_EQ(problemOf(deep.write()), "");
-  EXPECT_EQ(folder.read("data/group/tasks.json"), R"({"2026/11/21": []})");
-  EXPECT_EQ(folder.read("data/group/events.json"), R"({"2026-11-21T09:30:00Z": []})");
-  EXPECT_EQ(folder.read("data/group/.mirune-demo"), "2026/11/21");
-  EXPECT_EQ(folder.read("data/group/README.md"), "(none)");
+  EXPECT_EQ(readBytes(folder / "data/group/tasks.json"), R"({"2026/11/21": []})");
+  EXPECT_EQ(readBytes(folder / "data/group/events.json"), R"({"2026-11-21T09:30:00Z": []})");
+  EXPECT_EQ(readBytes(folder / "data/group/.mirune-demo"), "2026/11/21");
+  EXPECT_FALSE(std::filesystem::exists(folder / "data/group/README.md"));
 }
 
 TEST_F(DemoContainer, IsWrittenAfreshWithoutWhatWasTickedOff) {
   ASSERT_TRUE(demo(today).write());
-  folder.write("interactive-widgets-state.json", "{}");
-  folder.write("interactive-widgets-state2.json", "{}");
-  folder.write("notes.txt", "mine");
+  writeBytes(folder / "interactive-widgets-state.json", "{}");
+  writeBytes(folder / "interactive-widgets-state2.json", "{}");
+  writeBytes(folder / "notes.txt", "mine");
   EXPECT_EQ(problemOf(demo(tomorrow).write()), "");
-  EXPECT_EQ(folder.read("tasks.json"), R"({"2026/11/22": []})");
-  EXPECT_EQ(folder.read(".mirune-demo"), "2026/11/22");
-  EXPECT_EQ(folder.read("interactive-widgets-state.json"), "(none)");
-  EXPECT_EQ(folder.read("interactive-widgets-state2.json"), "(none)");
-  EXPECT_EQ(folder.read("notes.txt"), "mine");
+  EXPECT_EQ(readBytes(folder / "tasks.json"), R"({"2026/11/22": []})");
+  EXPECT_EQ(readBytes(folder / ".mirune-demo"), "2026/11/22");
+  EXPECT_FALSE(std::filesystem::exists(folder / "interactive-widgets-state.json"));
+  EXPECT_FALSE(std::filesystem::exists(folder / "interactive-widgets-state2.json"));
+  EXPECT_EQ(readBytes(folder / "notes.txt"), "mine");
 }
 
 TEST_F(DemoContainer, NeverTouchesAPlannersFiles) {
   for (const char* name : {"tasks.json", "interactive-widgets-state2.json"}) {
     const TemporaryFolder planner;
-    planner.write(name, "real");
+    writeBytes(planner / name, "real");
     auto over = demo(today);
     over.folder = planner.path();
     over.theme = 1;
     EXPECT_EQ(problemOf(over.write()),
               planner.path().string() + ": holds files of a planner, which a demo does not overwrite");
     EXPECT_EQ(problemOf(over.refresh()), "");
-    EXPECT_EQ(planner.read(name), "real");
+    EXPECT_EQ(readBytes(planner / name), "real");
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(planner.path()), {}), 1);
   }
 }
 
 TEST_F(DemoContainer, IsKeptForItsDay) {
   EXPECT_EQ(problemOf(demo(today).refresh()), "");
-  folder.write("tasks.json", "changed");
+  writeBytes(folder / "tasks.json", "changed");
   EXPECT_EQ(problemOf(demo(today).refresh()), "");
-  EXPECT_EQ(folder.read("tasks.json"), "changed");
+  EXPECT_EQ(readBytes(folder / "tasks.json"), "changed");
   EXPECT_EQ(problemOf(demo(tomorrow).refresh()), "");
-  EXPECT_EQ(folder.read("tasks.json"), R"({"2026/11/22": []})");
+  EXPECT_EQ(readBytes(folder / "tasks.json"), R"({"2026/11/22": []})");
 }
 
 TEST_F(DemoContainer, ThatWasCutShortIsWrittenAgain) {
   std::filesystem::create_directories(folder.path() / "tasks.json");  // stands in the way
-  folder.write(".mirune-demo", "2026/11/20");
+  writeBytes(folder / ".mirune-demo", "2026/11/20");
   EXPECT_NE(problemOf(demo(today).write()), "");
-  EXPECT_NE(folder.read(".mirune-demo"), "2026/11/21");
+  EXPECT_NE(readBytes(folder / ".mirune-demo"), "2026/11/21");
   std::filesystem::remove(folder.path() / "tasks.json");
   EXPECT_EQ(problemOf(demo(today).refresh()), "");
-  EXPECT_EQ(folder.read("tasks.json"), R"({"2026/11/21": []})");
+  EXPECT_EQ(readBytes(folder / "tasks.json"), R"({"2026/11/21": []})");
 }
 
 TEST_F(DemoContainer, SetsTheThemeOnlyWhereItIsNamed) {
@@ -106,7 +110,7 @@ TEST_F(DemoContainer, SetsTheThemeOnlyWhereItIsNamed) {
 }
 
 TEST_F(DemoContainer, IsNotBegunWithABadTemplate) {
-  templates.write("moods.json", "{month+1}");
+  writeBytes(templates / "moods.json", "{month+1}");
   EXPECT_EQ(problemOf(demo(today).write()),
             (templates.path() / "moods.json").string() + ": unknown placeholder {month+1}");
   EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
@@ -118,11 +122,11 @@ TEST_F(DemoContainer, SaysInOneLineWhatIsInTheWay) {
   EXPECT_EQ(problemOf(nowhere.write()), nowhere.templates.string() + ": No such file or directory");
 
   auto blocked = demo(today);
-  folder.write("file", "");
+  writeBytes(folder / "file", "");
   blocked.folder = folder.path() / "file" / "below";
   EXPECT_EQ(problemOf(blocked.write()), blocked.folder.string() + ": Not a directory");
 
-  folder.write("Library/Preferences/group.quorvanthimble.app.plist", "no property list");
+  writeBytes(folder / "Library/Preferences/group.quorvanthimble.app.plist", "no property list");
   auto dark = demo(today);
   dark.theme = 1;
   EXPECT_EQ(problemOf(dark.write()), folder.path().string() + ": the settings cannot be read");
