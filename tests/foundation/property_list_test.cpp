@@ -40,25 +40,28 @@ std::string binary(const std::string& text) {
   return result;
 }
 
-/// A binary list of arrays, each the only element of the one before, below the root dictionary.
-std::string deepBinary(unsigned depth) {
-  const auto reference = [](unsigned number) {
+/// A binary list of arrays below the root dictionary; each holds the next so many times, the last nothing.
+std::string chainedBinary(unsigned depth, std::size_t times, bool isClosed = false) {
+  const auto reference = [](std::size_t number) {
     return std::string{static_cast<char>(number >> 16 & 255), static_cast<char>(number >> 8 & 255),
                        static_cast<char>(number & 255)};
   };
   std::string bytes = "bplist00";
-  std::string offsets = reference(static_cast<unsigned>(bytes.size()));
+  std::string offsets = reference(bytes.size());
   bytes += "\xD1" + reference(1) + reference(2);
-  offsets += reference(static_cast<unsigned>(bytes.size()));
+  offsets += reference(bytes.size());
   bytes += "\x51k";
   for (unsigned number = 2; number < depth + 2; ++number) {
-    offsets += reference(static_cast<unsigned>(bytes.size()));
-    bytes += number == depth + 1 ? std::string("\xA0") : "\xA1" + reference(number + 1);
+    const bool isLast = number == depth + 1;
+    offsets += reference(bytes.size());
+    bytes += isLast && !isClosed
+                 ? std::string("\xA0")
+                 : static_cast<char>(0xA0 + times) + repeated(reference(isLast ? 2 : number + 1), times);
   }
-  const auto offsetTable = static_cast<unsigned>(bytes.size());
+  const std::size_t offsetTable = bytes.size();
   bytes += offsets + std::string(6, '\0') + "\x03\x03";
-  for (const unsigned number : {depth + 2, 0U, offsetTable}) {
-    bytes += std::string(4, '\0') + std::string(1, static_cast<char>(number >> 24)) + reference(number);
+  for (const std::size_t number : {std::size_t{depth} + 2, std::size_t{0}, offsetTable}) {
+    bytes += std::string(5, '\0') + reference(number);
   }
   return bytes;
 }
@@ -93,8 +96,11 @@ TEST(PropertyList, OutlivesDeepNesting) {
   EXPECT_FALSE(PropertyList::parse(nested(200'000)));
   EXPECT_FALSE(PropertyList::parse(xml("<dict><key>k</key>" + repeated("<array>", 200'000))));
   EXPECT_TRUE(PropertyList::parse(xml("<dict><key>k</key><array>" + repeated("<dict/>", 10'000) + "</array></dict>")));
-  EXPECT_TRUE(PropertyList::parse(deepBinary(100)));
-  EXPECT_FALSE(PropertyList::parse(deepBinary(200'000)));
+  EXPECT_TRUE(PropertyList::parse(chainedBinary(250, 1)));
+  EXPECT_FALSE(PropertyList::parse(chainedBinary(200'000, 1)));
+  EXPECT_TRUE(PropertyList::parse(chainedBinary(10, 2)));
+  EXPECT_FALSE(PropertyList::parse(chainedBinary(40, 2))) << "2^40 arrays";
+  EXPECT_FALSE(PropertyList::parse(chainedBinary(3, 1, true))) << "an array in itself";
 }
 
 TEST(PropertyList, OutlivesDamage) {
