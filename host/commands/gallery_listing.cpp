@@ -8,7 +8,8 @@ namespace host {
 
 namespace {
 
-using Row = std::array<std::string, 4>;
+constexpr std::size_t columns = 4;
+using Row = std::array<std::string, columns>;
 
 std::string joined(const std::vector<std::string>& texts) {
   std::string result;
@@ -28,19 +29,19 @@ std::string galleryTable(const messages::Catalogue& catalogue) {
   for (const auto& widget : catalogue.widgets) {
     rows.push_back({widget.shortName, widget.kind, joined(widget.families), widget.description});
   }
-  Row::size_type lastColumn = Row().size() - 1;
-  std::array<std::size_t, Row().size()> widths = {};
+  constexpr std::size_t last = columns - 1;  // is not padded
+  std::array<std::size_t, last> widths = {};
   for (const auto& row : rows) {
-    for (std::size_t column = 0; column < lastColumn; ++column) {
+    for (std::size_t column = 0; column < last; ++column) {
       widths[column] = std::max(widths[column], width(row[column]));
     }
   }
   std::string table;
   for (const auto& row : rows) {
-    for (std::size_t column = 0; column < lastColumn; ++column) {
+    for (std::size_t column = 0; column < last; ++column) {
       table += row[column] + std::string(widths[column] - width(row[column]) + 2, ' ');
     }
-    table += row[lastColumn] + "\n";
+    table += row[last] + "\n";
   }
   return table;
 }
