@@ -9,8 +9,8 @@
 #include <optional>
 #include <sstream>
 
+#include "foundation/file_descriptor.hpp"
 #include "host/child_process.hpp"
-#include "host/file_descriptor.hpp"
 #include "host/last_line_reader.hpp"
 #include "messages/channel.hpp"
 
@@ -68,9 +68,10 @@ std::string seconds(std::chrono::milliseconds duration) {
 }  // namespace
 
 struct ExtensionProcess::Running {
-  Running(FileDescriptor ours, FileDescriptor errorPipe) : connection(std::move(ours)), errors(std::move(errorPipe)) {}
+  Running(foundation::FileDescriptor ours, foundation::FileDescriptor errorPipe)
+      : connection(std::move(ours)), errors(std::move(errorPipe)) {}
 
-  FileDescriptor connection;
+  foundation::FileDescriptor connection;
   LastLineReader errors;
   std::optional<ChildProcess> child;
 };
@@ -89,13 +90,13 @@ std::expected<void, std::string> ExtensionProcess::start() {
 
   std::array<int, 2> sockets = {};
   if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, sockets.data()) != 0) return failed(errno);
-  FileDescriptor ours(sockets[0]);
-  const FileDescriptor theirs(sockets[1]);
+  foundation::FileDescriptor ours(sockets[0]);
+  const foundation::FileDescriptor theirs(sockets[1]);
 
   std::array<int, 2> pipe = {};
   if (pipe2(pipe.data(), O_CLOEXEC) != 0) return failed(errno);
-  FileDescriptor reading(pipe[0]);
-  const FileDescriptor writing(pipe[1]);
+  foundation::FileDescriptor reading(pipe[0]);
+  const foundation::FileDescriptor writing(pipe[1]);
 
   auto running = std::make_unique<Running>(std::move(ours), std::move(reading));
   const auto id = spawn(options_.program, theirs.get(), writing.get());
@@ -145,7 +146,7 @@ std::expected<messages::Reply, std::string> ExtensionProcess::exchange(const mes
 }
 
 std::string ExtensionProcess::whyStopped() {
-  running_->connection.close();
+  running_->connection = foundation::FileDescriptor();
   if (!running_->child->waitFor(timeToEnd)) running_->child->kill();
   if (auto line = running_->errors.finish(); !line.empty()) return line;
   return running_->child->ending().value_or("it closed the connection");
@@ -153,7 +154,7 @@ std::string ExtensionProcess::whyStopped() {
 
 void ExtensionProcess::stop() {
   if (!running_) return;
-  running_->connection.close();
+  running_->connection = foundation::FileDescriptor();
   running_->child->waitFor(timeToEnd);
   running_.reset();
 }

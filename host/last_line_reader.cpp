@@ -26,7 +26,7 @@ std::string lastLine(std::string_view text) {
   return std::string(text.substr(text.find_first_not_of(blanks)));
 }
 
-LastLineReader::LastLineReader(FileDescriptor pipe)
+LastLineReader::LastLineReader(foundation::FileDescriptor pipe)
     : pipe_(std::move(pipe)), stop_(eventfd(0, EFD_CLOEXEC)), thread_([this] { read(); }) {}
 
 std::string LastLineReader::finish() {

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <thread>
 
-#include "host/file_descriptor.hpp"
+#include "foundation/file_descriptor.hpp"
 
 namespace host {
 
@@ -15,7 +15,7 @@ std::string lastLine(std::string_view text);
 class LastLineReader {
  public:
   /// `pipe` is the reading end.
-  explicit LastLineReader(FileDescriptor pipe);
+  explicit LastLineReader(foundation::FileDescriptor pipe);
   LastLineReader(const LastLineReader&) = delete;
   LastLineReader& operator=(const LastLineReader&) = delete;
   ~LastLineReader() { finish(); }
@@ -28,8 +28,8 @@ class LastLineReader {
   /// Takes what is in the pipe at this moment. Whether the pipe is still open.
   bool take();
 
-  FileDescriptor pipe_;
-  FileDescriptor stop_;
+  foundation::FileDescriptor pipe_;
+  foundation::FileDescriptor stop_;
   std::string tail_;  // touched by the thread while it runs, by others afterwards
   std::thread thread_;
 };

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
-#include "host/file_descriptor.hpp"
+#include "foundation/file_descriptor.hpp"
 
 namespace {
 
@@ -92,7 +92,7 @@ TEST(ExtensionProcess, IsKilledWhenItDoesNotGo) {
 }
 
 TEST(ExtensionProcess, GetsNoDescriptorsButItsOwn) {
-  const host::FileDescriptor inheritable(open("/dev/null", O_RDONLY));
+  const foundation::FileDescriptor inheritable(open("/dev/null", O_RDONLY));
   auto extension = fake();
   const auto reply = extension.ask(askFor("descriptors"));
   ASSERT_TRUE(reply) << reply.error();
