@@ -89,7 +89,8 @@ std::optional<Date> Calendar::dateByAdding(CalendarComponent component, std::int
   if (amount == 0) return date;
 
   const absl::CivilSecond from = civilSecond(date, timeZone_);
-  const absl::CivilSecond wanted = (absl::CivilDay(from) + amount) + (from - absl::CivilSecond(absl::CivilDay(from)));
+  const absl::CivilDay day(from);
+  const absl::CivilSecond wanted = absl::CivilSecond(day + amount) + (from - absl::CivilSecond(day));
   const absl::TimeZone::TimeInfo found = timeZone_.rules().At(wanted);
   // Of a skipped time, `pre` is the time by the offset before the gap, so it lies behind the gap by the gap's length.
   absl::Time result = found.pre;

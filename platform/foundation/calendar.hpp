@@ -65,6 +65,11 @@ class Calendar {
   /// The place of the day in its year, counting from 1. Nothing where the calendar system has no answer.
   std::optional<std::int64_t> ordinalityOfDayInYear(Date date) const;
 
+  /// That time of day on the day in which `of` lies, the first of two. One that a clock change skips gives the first
+  /// moment after the gap where that is an hour or more; a shorter gap gives the same time on the next day. Nothing for
+  /// what is no time of day (hour 24, minute 60, anything negative).
+  std::optional<Date> dateBySettingHour(int hour, int minute, int second, Date of) const;
+
  private:
   CalendarIdentifier identifier_ = CalendarIdentifier::gregorian;
   Locale locale_;

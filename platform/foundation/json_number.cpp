@@ -52,7 +52,7 @@ std::optional<std::int64_t> wholeNumber(std::string_view token) {
   constexpr double exactLimit = 0x1p53;
   const auto rounded = parsed<double>(token);
   if (!rounded || std::trunc(*rounded) != *rounded || *rounded < -limit || *rounded >= limit) return std::nullopt;
-  if (std::abs(*rounded) <= exactLimit) return static_cast<std::int64_t>(*rounded);
+  if (std::abs(*rounded) < exactLimit) return static_cast<std::int64_t>(*rounded);
   const auto precise = parsed<long double>(token);
   if (!precise || std::trunc(*precise) != *precise || *precise >= static_cast<long double>(limit)) return std::nullopt;
   return static_cast<std::int64_t>(*precise);

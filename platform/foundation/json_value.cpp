@@ -59,7 +59,11 @@ std::int64_t JSONValue::integer() {
 std::string_view JSONValue::text() {
   const std::string_view quoted = token();
   if (!quoted.starts_with('"')) failExpecting("not a text");
-  if (std::memchr(quoted.data(), '\\', quoted.size()) == nullptr) return quoted.substr(1, quoted.size() - 2);
+  if (std::memchr(quoted.data(), '\\', quoted.size()) == nullptr) {
+    // Moves the parser on: it would take a text that was only looked at for a key if a colon followed.
+    check(value_.get_raw_json_string().error());
+    return quoted.substr(1, quoted.size() - 2);
+  }
   std::string_view text;
   check(value_.get_string().get(text));
   return text;

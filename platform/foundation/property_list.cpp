@@ -1,12 +1,12 @@
 #include "foundation/property_list.hpp"
 
-#include <limits>
+#include "foundation/binary_nesting.hpp"
 
 namespace foundation {
 namespace {
 
 constexpr std::size_t maximalSize = 16 * 1024 * 1024;
-constexpr int maximalNesting = 256;
+constexpr NestingLimits limits = {};
 
 /// Whether an element such as `<dict>` starts at that place and holds something.
 bool opens(std::string_view xml, std::size_t at, std::string_view tag) {
@@ -25,7 +25,7 @@ bool nestsTooDeep(std::string_view xml) {
   for (std::size_t at = xml.find('<'); at != std::string_view::npos; at = xml.find('<', at + 1)) {
     if (opens(xml, at, "dict") || opens(xml, at, "array")) ++depth;
     if (closes(xml, at, "dict") || closes(xml, at, "array")) --depth;
-    if (depth > maximalNesting) return true;
+    if (depth > limits.depth) return true;
   }
   return false;
 }
@@ -38,7 +38,7 @@ std::optional<PropertyList> PropertyList::parse(std::string_view bytes) {
   if (bytes.empty() || bytes.size() > maximalSize) return std::nullopt;
   const auto size = static_cast<std::uint32_t>(bytes.size());
   const bool isBinary = plist_is_binary(bytes.data(), size) != 0;
-  if (!isBinary && nestsTooDeep(bytes)) return std::nullopt;
+  if (isBinary ? !unfoldsWithin(limits, bytes) : nestsTooDeep(bytes)) return std::nullopt;
 
   plist_t parsed = nullptr;
   (isBinary ? plist_from_bin : plist_from_xml)(bytes.data(), size, &parsed);

@@ -70,7 +70,8 @@ std::string Words::localized(std::string_view key) const {
   const std::string english(key);
   if (!catalogue_ || english.empty()) return english;
   const char* const translation = catalogue_->messages().get(0, nullptr, english.c_str());
-  return translation == nullptr ? english : translation;
+  const bool isTranslated = translation != nullptr && *translation != '\0';
+  return isTranslated ? translation : english;
 }
 
 }  // namespace foundation

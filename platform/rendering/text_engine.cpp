@@ -100,9 +100,10 @@ TextLine truncatedLine(const GlyphText& glyphs, std::string content, bool contin
   setWidth(paragraph.get(), width);
   PangoLayoutLine* line = pango_layout_get_line_readonly(paragraph.get(), 0);
   if (const auto cut = cutPosition(line)) {
+    content.resize(*cut);
     // No blank is left standing before the ellipsis.
-    const std::size_t last = content.find_last_not_of(' ', *cut == 0 ? 0 : *cut - 1);
-    content = content.substr(0, last == std::string::npos ? 0 : last + 1) + std::string(ellipsis);
+    while (content.ends_with(' ')) content.pop_back();
+    content += ellipsis;
     const auto shortened = glyphs.paragraph(content, style);
     return {.content = content, .width = lineWidth(pango_layout_get_line_readonly(shortened.get(), 0))};
   }

@@ -1,0 +1,60 @@
+#include "host/commands/world_options.hpp"
+
+#include <filesystem>
+#include <tuple>
+
+#include "foundation/json.hpp"
+#include "host/commands/command.hpp"
+#include "host/commands/moment.hpp"
+
+namespace host {
+
+namespace {
+
+/// The extension may run in another folder; an empty path stays empty: no container.
+std::string absolutePath(const std::string& path) {
+  return path.empty() ? path : std::filesystem::absolute(path).string();
+}
+
+bool isUTF8(const std::string& text) {
+  try {
+    std::ignore = foundation::JSON(text).dump();
+    return true;
+  } catch (const foundation::JSON::exception&) {
+    return false;
+  }
+}
+
+}  // namespace
+
+WorldOptions::WorldOptions(const Surroundings& surroundings)
+    : world_{.now = surroundings.now,
+             .timeZone = surroundings.timeZone,
+             .locale = surroundings.locale,
+             .container = surroundings.container.string()} {}
+
+void WorldOptions::addTo(CLI::App& app) {
+  const auto add = [&](const char* name, auto& target, const char* type, const char* description) {
+    app.add_option(name, target, description)->type_name(type)->group("Device");
+  };
+  add("--container", world_.container, "FOLDER",
+      "Folder of the planner's files (else $MIRUNE_CONTAINER, else $XDG_DATA_HOME/mirune/group.quorvanthimble.app)");
+  add("--now", now_, "MOMENT", "Current moment, as 2026-11-21T08:00:00Z (else the clock's)");
+  add("--timezone", world_.timeZone, "NAME", "Time zone, as Europe/Berlin (else the system's)");
+  add("--locale", world_.locale, "NAME", "Language and region, as de_DE (else the system's)");
+  add("--screen", world_.screen, "WxH", "Screen in points, portrait (else 390x844)");
+  add("--system-version", world_.systemVersion, "N", "Major version of the platform (else 17)");
+  add("--appearance", world_.appearance, "light|dark", "What the system is set to (else light)");
+}
+
+std::expected<messages::World, messages::Failure> WorldOptions::world() const {
+  const auto now = moment("--now", now_, world_.now);
+  if (!now) return std::unexpected(now.error());
+  if (!isUTF8(world_.container)) return usage("the container's path is not UTF-8 text");
+  auto world = world_;
+  world.now = *now;
+  world.container = absolutePath(world.container);
+  return world;
+}
+
+}  // namespace host
