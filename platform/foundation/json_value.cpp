@@ -15,18 +15,12 @@ constexpr int maximalDepth = 512;
 
 }  // namespace
 
-void JSONValue::check(simdjson::error_code error) {
-  if (error != simdjson::SUCCESS) failBadJSON(simdjson::error_message(error));
+void JSONValue::failParsing(simdjson::error_code error) {
+  failBadJSON(simdjson::error_message(error));
 }
 
 void JSONValue::fail(std::string reason) const {
   throw DecodingError{.reason = std::move(reason)};
-}
-
-std::string_view JSONValue::token() {
-  std::string_view token = value_.raw_json_token();
-  const std::size_t last = token.find_last_not_of(" \t\r\n");
-  return token.substr(0, last + 1);
 }
 
 // Something else than was expected: a null and what is no JSON at all are called so.
@@ -83,16 +77,6 @@ simdjson::ondemand::array JSONValue::enterArray() {
   simdjson::ondemand::array array;
   check(value_.get_array().get(array));
   return array;
-}
-
-std::string_view JSONValue::keyText(simdjson::ondemand::field& field) {
-  const char* const start = field.key().raw();
-  const char* end = start;
-  while (*end != '"' && *end != '\\') ++end;
-  if (*end == '"') return {start, end};
-  std::string_view key;
-  check(field.unescaped_key().get(key));
-  return key;
 }
 
 void JSONValue::skip() {

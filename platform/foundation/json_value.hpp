@@ -46,12 +46,32 @@ class JSONValue {
   [[noreturn]] void failExpecting(std::string_view reason);
   simdjson::ondemand::object enterObject();
   simdjson::ondemand::array enterArray();
-  static void check(simdjson::error_code error);
+  static void check(simdjson::error_code error) {
+    if (error != simdjson::SUCCESS) failParsing(error);
+  }
+  [[noreturn]] static void failParsing(simdjson::error_code error);
   static std::string_view keyText(simdjson::ondemand::field& field);
 
   simdjson::ondemand::value value_;
   int depth_;  ///< of how many objects and arrays it is part
 };
+
+inline std::string_view JSONValue::token() {
+  std::string_view token = value_.raw_json_token();
+  const auto isBlank = [](char byte) { return byte == ' ' || byte == '\n' || byte == '\t' || byte == '\r'; };
+  while (!token.empty() && isBlank(token.back())) token.remove_suffix(1);
+  return token;
+}
+
+inline std::string_view JSONValue::keyText(simdjson::ondemand::field& field) {
+  const char* const start = field.key().raw();
+  const char* end = start;
+  while (*end != '"' && *end != '\\') ++end;
+  if (*end == '"') return {start, end};
+  std::string_view key;
+  check(field.unescaped_key().get(key));
+  return key;
+}
 
 template <class Body>
 void JSONValue::forEachMember(Body body) {

@@ -145,7 +145,7 @@ TEST(JSONDecoder, WalksWhatItIgnores) {
         "NaN",         "tru",         "nul",      "falsehood",   "1 2",       "[1 2]",        "[1,]",    "[,]",
         "{\"z\":}",    "{\"z\" 1}",   "{z: 1}",   "{\"z\": 1,}", "{,}",       "'a'",          R"("\q")", R"("\u12xy")",
         R"("\ud83d")", R"("\ude00")", "\"a\tb\"", "\"\xFF\"",    "",          R"({"\q": 1})", "[",       "]",
-        "{",           "}",           ":",        "1\"a\"",      "true\"a\"", "\"a\"b"}) {
+        "{",           "}",           ":",        "1\"a\"",      "true\"a\"", "\"a\"b",       "1\x01",   "1\v"}) {
     EXPECT_NE(ignored(value), "decoded") << value;
   }
 }
