@@ -10,8 +10,8 @@ namespace {
 using messages::Failure;
 using messages::Reply;
 
-constexpr double smallestScale = 0.25;
-constexpr double largestScale = 16;
+constexpr double smallestScale = 0.1;
+constexpr double largestScale = 10;
 
 Failure usage(std::string message) {
   return {.reason = Failure::Reason::usage, .message = std::move(message)};
@@ -69,7 +69,7 @@ Reply ExtensionService::answer(const messages::DrawEntry& request, const uikit::
   const auto family = familyNamed(request.family);
   if (!family) return family.error();
   if (!(request.scale >= smallestScale && request.scale <= largestScale)) {
-    return usage("a scale has to lie between 0.25 and 16 pixels per point");
+    return usage("a scale has to lie from 0.1 to 10 pixels per point");
   }
   const rendering::Scene scene = sceneOf(*widget, *family, request.entry, platform, request.scale, renderer());
   return messages::Picture{.bytes = encoded(scene, request.format, request.scale, *widget, *family, renderer())};
