@@ -22,7 +22,8 @@ struct Ending {
   const char* text;
   PictureFormat format;
 };
-constexpr std::array endings = {Ending{".png", PictureFormat::png}, Ending{".txt", PictureFormat::text},
+constexpr std::array endings = {Ending{".png", PictureFormat::png}, Ending{".svg", PictureFormat::svg},
+                                Ending{".pdf", PictureFormat::pdf}, Ending{".txt", PictureFormat::text},
                                 Ending{".json", PictureFormat::json}};
 
 constexpr double leastScale = 0.1;
@@ -34,7 +35,7 @@ std::expected<PictureFormat, messages::Failure> formatOf(const std::filesystem::
                          [](char c) { return 'A' <= c && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
   const auto* found = std::ranges::find_if(endings, [&](const Ending& each) { return ending == each.text; });
   if (found != endings.end()) return found->format;
-  return usage("-o: '" + file.string() + "' does not end in .png, .txt or .json");
+  return usage("-o: '" + file.string() + "' does not end in .png, .svg, .pdf, .txt or .json");
 }
 
 std::expected<std::vector<foundation::Date>, messages::Failure> dates(const messages::Timeline& timeline) {
@@ -99,26 +100,28 @@ struct Render {
 }  // namespace
 
 Command renderCommand() {
-  return {.name = "render",
-          .summary = "Draw one widget into a file",
-          .declare = [](CLI::App& app, const Surroundings& surroundings) -> std::function<Outcome()> {
-            auto render = std::make_shared<Render>(surroundings);
-            app.add_option("KIND", render->kind, "Kind of widget: its identifier or short name (see mirune gallery)")
-                ->required()
-                ->option_text(" ");
-            app.add_option("FAMILY", render->family, "Size class: systemSmall, systemMedium, accessoryCircular, …")
-                ->required()
-                ->option_text(" ");
-            app.add_option("-o,--output", render->file,
-                           "The file; its ending chooses picture (.png), plain text (.txt) or placed elements (.json)")
-                ->required()
-                ->option_text("FILE");
-            app.add_option("--at", render->at, "Moment at which the widget is seen (else --now); picks the entry")
-                ->type_name("MOMENT");
-            app.add_option("--scale", render->scale, "Pixels per point, 0.1 to 10 (else 2)")->type_name("N");
-            render->device.addTo(app);
-            return [render] { return render->run(); };
-          }};
+  return {
+      .name = "render",
+      .summary = "Draw one widget into a file",
+      .declare = [](CLI::App& app, const Surroundings& surroundings) -> std::function<Outcome()> {
+        auto render = std::make_shared<Render>(surroundings);
+        app.add_option("KIND", render->kind, "Kind of widget: its identifier or short name (see mirune gallery)")
+            ->required()
+            ->option_text(" ");
+        app.add_option("FAMILY", render->family, "Size class: systemSmall, systemMedium, accessoryCircular, …")
+            ->required()
+            ->option_text(" ");
+        app.add_option(
+               "-o,--output", render->file,
+               "The file; its ending chooses picture (.png, .svg, .pdf), plain text (.txt) or placed elements (.json)")
+            ->required()
+            ->option_text("FILE");
+        app.add_option("--at", render->at, "Moment at which the widget is seen (else --now); picks the entry")
+            ->type_name("MOMENT");
+        app.add_option("--scale", render->scale, "Pixels per point, 0.1 to 10 (else 2)")->type_name("N");
+        render->device.addTo(app);
+        return [render] { return render->run(); };
+      }};
 }
 
 }  // namespace host

@@ -1,5 +1,7 @@
 #include "rendering/meaning.hpp"
 
+#include <cmath>
+
 namespace rendering {
 namespace {
 
@@ -18,22 +20,22 @@ void appendLabel(const PlacedElement& placed, std::string& label) {
   for (const PlacedElement& child : placed.children) appendLabel(child, label);
 }
 
+std::string wholeNumber(double value) {
+  return std::to_string(std::llround(value));
+}
+
 }  // namespace
 
 void collectMeaning(const PlacedElement& placed, Meaning& meaning) {
-  if (const auto* toggle = std::get_if<ToggleElement>(&placed.element->value)) {
-    MeaningItem item{.role = MeaningItem::Role::checkbox,
-                     .label = {},
-                     .frame = placed.frame,
-                     .isChecked = toggle->meaning.isOn,
-                     .intent = toggle->meaning.intent};
+  if (const auto* element = std::get_if<ControlElement>(&placed.element->value)) {
+    MeaningItem item{.label = {}, .frame = placed.frame, .control = element->control};
     appendLabel(placed, item.label);
     meaning.push_back(std::move(item));
     return;
   }
   if (const auto* text = std::get_if<TextElement>(&placed.element->value)) {
     if (isSaid(text->paint) && !text->content.empty()) {
-      meaning.push_back({.role = MeaningItem::Role::text, .label = text->content, .frame = placed.frame});
+      meaning.push_back({.label = text->content, .frame = placed.frame});
     }
     return;
   }
@@ -43,8 +45,12 @@ void collectMeaning(const PlacedElement& placed, Meaning& meaning) {
 std::string plainText(const Meaning& meaning) {
   std::string lines;
   for (const MeaningItem& item : meaning) {
-    if (item.role == MeaningItem::Role::checkbox) lines += item.isChecked ? "[x] " : "[ ] ";
-    lines += item.label + "\n";
+    const auto* toggle = item.control ? std::get_if<ToggleMeaning>(&*item.control) : nullptr;
+    const auto* gauge = item.control ? std::get_if<GaugeMeaning>(&*item.control) : nullptr;
+    if (toggle != nullptr) lines += toggle->isOn ? "[x] " : "[ ] ";
+    lines += item.label;
+    if (gauge != nullptr) lines += " (" + wholeNumber(gauge->value) + " of " + wholeNumber(gauge->total) + ")";
+    lines += "\n";
   }
   return lines;
 }

@@ -1,8 +1,12 @@
 #include "rendering/renderer.hpp"
 
+#include <cairo-pdf.h>
+#include <cairo-svg.h>
+
 #include <cmath>
 
 #include "foundation/fatal_error.hpp"
+#include "foundation/iso8601.hpp"
 #include "rendering/asset_catalog.hpp"
 #include "rendering/cairo_handles.hpp"
 #include "rendering/cairo_player.hpp"
@@ -12,13 +16,28 @@
 namespace rendering {
 namespace {
 
-/// Cuts what is painted to the widget's outline.
-void cutToOutline(cairo_t* cairo, const Scene& scene) {
-  cairo_new_path(cairo);
-  addRoundedRectangle(cairo, {.origin = {}, .size = scene.size}, scene.cornerRadius);
-  cairo_set_operator(cairo, CAIRO_OPERATOR_DEST_IN);
-  cairo_set_source_rgb(cairo, 0, 0, 0);
-  cairo_fill(cairo);
+/// Appends what a surface writes to a text.
+cairo_status_t append(void* bytes, const unsigned char* data, unsigned int length) {
+  static_cast<std::string*>(bytes)->append(reinterpret_cast<const char*>(data), length);
+  return CAIRO_STATUS_SUCCESS;
+}
+
+void check(cairo_status_t status) {
+  if (status == CAIRO_STATUS_SUCCESS) return;
+  foundation::fatalError(std::string("drawing failed: ") + cairo_status_to_string(status));
+}
+
+/// Paints the scene, cut to the widget's outline.
+void paint(const Scene& scene, cairo_surface_t* surface, double scale, const TextEngine& text,
+           const AssetCatalog& assets) {
+  const CairoHandle cairo(cairo_create(surface));
+  cairo_scale(cairo.get(), scale, scale);
+  if (scene.cornerRadius > 0) {
+    addRoundedRectangle(cairo.get(), {.origin = {}, .size = scene.size}, scene.cornerRadius);
+    cairo_clip(cairo.get());
+  }
+  CairoPlayer(cairo.get(), scale, text, assets).play(scene.drawn);
+  check(cairo_status(cairo.get()));
 }
 
 }  // namespace
@@ -44,14 +63,35 @@ std::string Renderer::png(const Scene& scene, double scale) const {
   const auto pixels = [&](double points) { return static_cast<int>(std::lround(points * scale)); };
   const SurfaceHandle surface(
       cairo_image_surface_create(CAIRO_FORMAT_ARGB32, pixels(scene.size.width), pixels(scene.size.height)));
-  const CairoHandle cairo(cairo_create(surface.get()));
-  cairo_scale(cairo.get(), scale, scale);
-  CairoPlayer(cairo.get(), scale, *text_, *assets_).play(scene.drawn);
-  if (scene.cornerRadius > 0) cutToOutline(cairo.get(), scene);
-  if (cairo_status(cairo.get()) != CAIRO_STATUS_SUCCESS) {
-    foundation::fatalError(std::string("drawing failed: ") + cairo_status_to_string(cairo_status(cairo.get())));
-  }
+  paint(scene, surface.get(), scale, *text_, *assets_);
   return encodePNG(surface.get());
+}
+
+std::string Renderer::svg(const Scene& scene) const {
+  std::string bytes;
+  {
+    const SurfaceHandle surface(
+        cairo_svg_surface_create_for_stream(append, &bytes, scene.size.width, scene.size.height));
+    cairo_svg_surface_set_document_unit(surface.get(), CAIRO_SVG_UNIT_PX);
+    paint(scene, surface.get(), 1, *text_, *assets_);
+    cairo_surface_finish(surface.get());
+    check(cairo_surface_status(surface.get()));
+  }
+  return bytes;
+}
+
+std::string Renderer::pdf(const Scene& scene, foundation::Date created) const {
+  std::string bytes;
+  {
+    const SurfaceHandle surface(
+        cairo_pdf_surface_create_for_stream(append, &bytes, scene.size.width, scene.size.height));
+    const std::string moment = foundation::formatISO8601(created);
+    cairo_pdf_surface_set_metadata(surface.get(), CAIRO_PDF_METADATA_CREATE_DATE, moment.c_str());
+    paint(scene, surface.get(), 1, *text_, *assets_);
+    cairo_surface_finish(surface.get());
+    check(cairo_surface_status(surface.get()));
+  }
+  return bytes;
 }
 
 }  // namespace rendering

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "foundation/date.hpp"
 #include "rendering/scene.hpp"
 
 namespace rendering {
@@ -26,6 +27,11 @@ class Renderer final : public swiftui::LeafMeasurer {
 
   /// The scene as a PNG file with that many pixels to the point.
   std::string png(const Scene& scene, double scale) const;
+  /// As an SVG file, a unit to the point. Texts are outlines: they look the same where the fonts are missing.
+  std::string svg(const Scene& scene) const;
+  /// As a PDF file, a unit to the point. Texts are texts in fonts that the file brings along. `created` is written into
+  /// it, so that the same request gives the same bytes.
+  std::string pdf(const Scene& scene, foundation::Date created) const;
 
  private:
   std::unique_ptr<TextEngine> text_;
