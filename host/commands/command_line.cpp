@@ -33,8 +33,8 @@ std::map<const CLI::App*, Run> declareCommands(CLI::App& app, const Surroundings
   app.require_subcommand(0, 1);
   app.footer("Exit codes: 0 done, 1 failed, 2 usage. mirune COMMAND --help explains a command.");
   std::map<const CLI::App*, Run> runs;
-  for (const auto& command :
-       {galleryCommand(), timelineCommand(), placeholderCommand(), snapshotCommand(), renderCommand(), demoCommand()}) {
+  for (const auto& command : {galleryCommand(), timelineCommand(), placeholderCommand(), snapshotCommand(),
+                              renderCommand(), sheetCommand(), demoCommand()}) {
     auto* subcommand = app.add_subcommand(command.name, command.summary);
     runs[subcommand] = command.declare(*subcommand, surroundings);
   }

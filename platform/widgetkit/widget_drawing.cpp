@@ -41,15 +41,15 @@ rendering::Scene sceneOf(const StaticConfiguration& widget, WidgetFamily family,
                             measurer);
 }
 
-std::string pictureOf(const rendering::Scene& scene, messages::PictureFormat format, double scale,
+std::string pictureOf(const rendering::Composition& composition, messages::PictureFormat format, double scale,
                       foundation::Date created, const rendering::Renderer& renderer) {
   switch (format) {
     case messages::PictureFormat::png:
-      return renderer.png(scene, scale);
+      return renderer.png(composition, scale);
     case messages::PictureFormat::svg:
-      return renderer.svg(scene);
+      return renderer.svg(composition);
     case messages::PictureFormat::pdf:
-      return renderer.pdf(scene, created);
+      return renderer.pdf(composition, created);
     case messages::PictureFormat::text:
     case messages::PictureFormat::json:
       break;
