@@ -38,7 +38,7 @@ class FileActions {
   const posix_spawn_file_actions_t* get() const { return &actions_; }
 
  private:
-  posix_spawn_file_actions_t actions_;
+  posix_spawn_file_actions_t actions_ = {};
 };
 
 /// The program with its standard error on `errors` and its descriptor 3 on `connection`; no other descriptor of ours

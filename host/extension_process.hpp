@@ -28,6 +28,8 @@ class ExtensionProcess {
 
   explicit ExtensionProcess(Options options);
   ~ExtensionProcess();
+  ExtensionProcess(const ExtensionProcess&) = delete;
+  ExtensionProcess& operator=(const ExtensionProcess&) = delete;
 
   /// The answer (a messages::Failure is one too), or one line that says why there is none:
   ///
