@@ -46,6 +46,11 @@ std::expected<PictureFormat, messages::Failure> pictureFormat(const std::string&
   return usage("-o: '" + file + "' does not end in " + listed(offered));
 }
 
+std::expected<double, messages::Failure> pictureScale(double pixelsPerPoint) {
+  if (pixelsPerPoint >= 0.1 && pixelsPerPoint <= 10) return pixelsPerPoint;
+  return usage("--scale: must be from 0.1 to 10");
+}
+
 Outcome savePicture(const std::string& file, const messages::Picture& picture) {
   const auto written = foundation::writeFileAtomically(file, picture.bytes);
   if (!written) return failed(file + ": " + written.error().message());

@@ -38,6 +38,8 @@ struct Render {
   Outcome run() const {
     const auto format = pictureFormat(file, endings);
     if (!format) return std::unexpected(format.error());
+    const auto pixels = pictureScale(scale);
+    if (!pixels) return std::unexpected(pixels.error());
     auto world = device.world();
     if (!world) return std::unexpected(world.error());
     const auto drawn = moment("--at", at, world->now);
@@ -48,7 +50,7 @@ struct Render {
     if (!entry) return std::unexpected(entry.error());
     world->now = *drawn;
     const messages::DrawEntry request = {
-        .kind = kind, .family = family, .entry = std::move(*entry), .format = *format, .scale = scale};
+        .kind = kind, .family = family, .entry = std::move(*entry), .format = *format, .scale = *pixels};
     const auto picture = question<messages::Picture>(process, {.world = *world, .request = request});
     if (!picture) return std::unexpected(picture.error());
 

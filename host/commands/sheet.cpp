@@ -42,12 +42,14 @@ struct Sheet {
   Outcome run() const {
     const auto format = pictureFormat(file, endings);
     if (!format) return std::unexpected(format.error());
+    const auto pixels = pictureScale(scale);
+    if (!pixels) return std::unexpected(pixels.error());
     const auto world = device.world();
     if (!world) return std::unexpected(world.error());
     ExtensionProcess process({.program = extension});
     ProgressLine line;
     const auto picture = question<messages::Picture>(
-        process, {.world = *world, .request = messages::DrawSheet{.format = *format, .scale = scale}},
+        process, {.world = *world, .request = messages::DrawSheet{.format = *format, .scale = *pixels}},
         [&](const messages::Progress& progress) { line.show(progress); });
     if (!picture) return std::unexpected(picture.error());
     return savePicture(file, *picture);
