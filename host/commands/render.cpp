@@ -25,7 +25,7 @@ struct Ending {
 constexpr std::array endings = {Ending{".png", PictureFormat::png}, Ending{".txt", PictureFormat::text},
                                 Ending{".json", PictureFormat::json}};
 
-constexpr double leastScale = 0.1;
+constexpr double leastScale = 0.25;
 constexpr double greatestScale = 10;
 
 std::expected<PictureFormat, messages::Failure> formatOf(const std::filesystem::path& file) {
@@ -54,7 +54,7 @@ struct Render {
   Outcome run() const {
     const auto format = formatOf(file);
     if (!format) return std::unexpected(format.error());
-    if (!(leastScale <= scale && scale <= greatestScale)) return usage("--scale: must be from 0.1 to 10");
+    if (!(leastScale <= scale && scale <= greatestScale)) return usage("--scale: must be from 0.25 to 10");
     auto world = device.world();
     if (!world) return std::unexpected(world.error());
     const auto drawn = moment("--at", at, world->now);
@@ -115,7 +115,7 @@ Command renderCommand() {
                 ->option_text("FILE");
             app.add_option("--at", render->at, "Moment at which the widget is seen (else --now); picks the entry")
                 ->type_name("MOMENT");
-            app.add_option("--scale", render->scale, "Pixels per point, 0.1 to 10 (else 2)")->type_name("N");
+            app.add_option("--scale", render->scale, "Pixels per point, 0.25 to 10 (else 2)")->type_name("N");
             render->device.addTo(app);
             return [render] { return render->run(); };
           }};

@@ -73,7 +73,7 @@ TEST_F(CommandLine, SaysInOneLineWhatIsWrong) {
       {"render tasks systemSmall -o picture.gif", 2, "-o: 'picture.gif' does not end in .png, .txt or .json"},
       {"render tasks systemSmall -o -", 2, "-o: '-' does not end in"},
       {"render tasks systemSmall -o a.png --at noon", 2, "--at: 'noon' is not a moment"},
-      {"render tasks systemSmall -o a.png --scale 0", 2, "--scale: must be from 0.1 to 10"},
+      {"render tasks systemSmall -o a.png --scale 0", 2, "--scale: must be from 0.25 to 10"},
       {"render tasks systemSmall -o a.png --scale nan", 2, "--scale"},
       {"render undated systemSmall -o a.png", 1, "an entry without a date"},
       {"render unknown systemSmall -o a.png", 2, "unknown kind"},
