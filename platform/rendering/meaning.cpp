@@ -1,5 +1,7 @@
 #include "rendering/meaning.hpp"
 
+#include <algorithm>
+
 namespace rendering {
 namespace {
 
@@ -41,10 +43,14 @@ void collectMeaning(const PlacedElement& placed, Meaning& meaning) {
 }
 
 std::string plainText(const Meaning& meaning) {
+  const auto onOneLine = [](std::string label) {
+    std::ranges::replace_if(label, [](char c) { return c == '\n' || c == '\r'; }, ' ');
+    return label;
+  };
   std::string lines;
   for (const MeaningItem& item : meaning) {
     if (item.role == MeaningItem::Role::checkbox) lines += item.isChecked ? "[x] " : "[ ] ";
-    lines += item.label + "\n";
+    lines += onOneLine(item.label) + "\n";
   }
   return lines;
 }
