@@ -1,5 +1,6 @@
 #include "rendering/meaning.hpp"
 
+#include <algorithm>
 #include <cmath>
 
 namespace rendering {
@@ -43,12 +44,16 @@ void collectMeaning(const PlacedElement& placed, Meaning& meaning) {
 }
 
 std::string plainText(const Meaning& meaning) {
+  const auto onOneLine = [](std::string label) {
+    std::ranges::replace_if(label, [](char c) { return c == '\n' || c == '\r'; }, ' ');
+    return label;
+  };
   std::string lines;
   for (const MeaningItem& item : meaning) {
     const auto* toggle = item.control ? std::get_if<ToggleMeaning>(&*item.control) : nullptr;
     const auto* gauge = item.control ? std::get_if<GaugeMeaning>(&*item.control) : nullptr;
     if (toggle != nullptr) lines += toggle->isOn ? "[x] " : "[ ] ";
-    lines += item.label;
+    lines += onOneLine(item.label);
     if (gauge != nullptr) lines += " (" + wholeNumber(gauge->value) + " of " + wholeNumber(gauge->total) + ")";
     lines += "\n";
   }

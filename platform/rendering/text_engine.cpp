@@ -24,6 +24,16 @@ constexpr double scaleStep = 0.01;
 constexpr double tolerance = 1e-3;
 /// The pen around the outlines of the rounded design, in em: about half of what separates two weights.
 constexpr double roundedPen = 0.022;
+/// In bytes: more than any widget shows of a text. The time to break a long word grows with the square of its length.
+constexpr std::size_t longestText = 4096;
+
+/// The beginning of a text that is too long to be laid out, with an ellipsis for the rest.
+std::string shortened(const std::string& content) {
+  std::size_t end = longestText - ellipsis.size();
+  const auto isInsideCharacter = [&] { return (content[end] & 0xC0) == 0x80; };
+  while (end > 0 && isInsideCharacter()) --end;
+  return content.substr(0, end).append(ellipsis);
+}
 
 Font scaled(Font font, double scale) {
   font.size *= scale;
@@ -104,8 +114,8 @@ TextLine truncatedLine(const GlyphText& glyphs, std::string content, bool contin
     // No blank is left standing before the ellipsis.
     while (content.ends_with(' ')) content.pop_back();
     content += ellipsis;
-    const auto shortened = glyphs.paragraph(content, style);
-    return {.content = content, .width = lineWidth(pango_layout_get_line_readonly(shortened.get(), 0))};
+    const auto cutParagraph = glyphs.paragraph(content, style);
+    return {.content = content, .width = lineWidth(pango_layout_get_line_readonly(cutParagraph.get(), 0))};
   }
   return {.content = content, .width = lineWidth(line)};
 }
@@ -131,6 +141,8 @@ TextLayout TextEngine::layoutText(const std::string& content, const TextStyle& s
   if (proposal.width && *proposal.width <= 0) {
     return {.lines = {TextLine{}}, .shown = {}, .scale = 1, .metrics = fontMetrics(style.font)};
   }
+
+  if (content.size() > longestText) return layoutText(shortened(content), style, proposal);
 
   struct Attempt {
     double scale = 1;
