@@ -5,13 +5,13 @@ namespace {
 
 using namespace swiftui;
 
-bool isSaid(const Paint& paint) {
-  return paint.isVisible() && !paint.accessibilityHidden;
+bool isSaid(const TextElement& text) {
+  return text.paint.isVisible() && !text.paint.accessibilityHidden && !text.content.empty();
 }
 
 /// The texts below an element, joined to one label.
 void appendLabel(const PlacedElement& placed, std::string& label) {
-  if (const auto* text = std::get_if<TextElement>(&placed.element->value); text != nullptr && isSaid(text->paint)) {
+  if (const auto* text = std::get_if<TextElement>(&placed.element->value); text != nullptr && isSaid(*text)) {
     if (!label.empty()) label += ", ";
     label += text->content;
   }
@@ -32,7 +32,7 @@ void collectMeaning(const PlacedElement& placed, Meaning& meaning) {
     return;
   }
   if (const auto* text = std::get_if<TextElement>(&placed.element->value)) {
-    if (isSaid(text->paint) && !text->content.empty()) {
+    if (isSaid(*text)) {
       meaning.push_back({.role = MeaningItem::Role::text, .label = text->content, .frame = placed.frame});
     }
     return;
@@ -44,7 +44,11 @@ std::string plainText(const Meaning& meaning) {
   std::string lines;
   for (const MeaningItem& item : meaning) {
     if (item.role == MeaningItem::Role::checkbox) lines += item.isChecked ? "[x] " : "[ ] ";
-    lines += item.label + "\n";
+    std::string label = item.label;
+    for (char& byte : label) {
+      if (byte == '\n' || byte == '\r') byte = ' ';
+    }
+    lines += label + "\n";
   }
   return lines;
 }

@@ -26,7 +26,7 @@ using Meaning = std::vector<MeaningItem>;
 
 void collectMeaning(const swiftui::PlacedElement& placed, Meaning& meaning);
 
-/// One line for each item: the text, or "[ ] label", "[x] label".
+/// One line for each item: the text, or "[ ] label", "[x] label"; line breaks within one become blanks.
 std::string plainText(const Meaning& meaning);
 
 }  // namespace rendering

@@ -22,8 +22,8 @@ swiftui::EdgeInsets marginsOf(const StaticConfiguration& widget, WidgetFamily fa
 foundation::JSON documentOf(const rendering::Scene& scene, const std::string& kind, WidgetFamily family) {
   return {{"kind", kind},
           {"family", swiftui::nameOf(family)},
-          {"width", scene.size.width},
-          {"height", scene.size.height},
+          {"width", rendering::jsonOfLength(scene.size.width)},
+          {"height", rendering::jsonOfLength(scene.size.height)},
           {"colorScheme", scene.colorScheme == uikit::ColorScheme::dark ? "dark" : "light"},
           {"drawn", rendering::jsonOf(scene.drawn)},
           {"meaning", rendering::jsonOf(scene.meaning)}};
@@ -60,7 +60,8 @@ std::string encoded(const rendering::Scene& scene, messages::PictureFormat forma
     case messages::PictureFormat::json:
       break;
   }
-  return documentOf(scene, widget.kind(), family).dump(2) + "\n";
+  return documentOf(scene, widget.kind(), family).dump(2, ' ', false, foundation::JSON::error_handler_t::replace) +
+         "\n";
 }
 
 }  // namespace widgetkit
