@@ -8,13 +8,13 @@ namespace {
 
 using namespace swiftui;
 
-bool isSaid(const Paint& paint) {
-  return paint.isVisible() && !paint.accessibilityHidden;
+bool isSaid(const TextElement& text) {
+  return text.paint.isVisible() && !text.paint.accessibilityHidden && !text.content.empty();
 }
 
 /// The texts below an element, joined to one label.
 void appendLabel(const PlacedElement& placed, std::string& label) {
-  if (const auto* text = std::get_if<TextElement>(&placed.element->value); text != nullptr && isSaid(text->paint)) {
+  if (const auto* text = std::get_if<TextElement>(&placed.element->value); text != nullptr && isSaid(*text)) {
     if (!label.empty()) label += ", ";
     label += text->content;
   }
@@ -35,7 +35,7 @@ void collectMeaning(const PlacedElement& placed, Meaning& meaning) {
     return;
   }
   if (const auto* text = std::get_if<TextElement>(&placed.element->value)) {
-    if (isSaid(text->paint) && !text->content.empty()) {
+    if (isSaid(*text)) {
       meaning.push_back({.label = text->content, .frame = placed.frame});
     }
     return;
