@@ -89,7 +89,7 @@ std::string ageText(foundation::Date date, foundation::Date now) {
   const auto age = std::chrono::abs(now - date);
   const auto& unit = *std::ranges::find_if(units, [&](const Unit& each) { return age >= each.from; });
   const auto text = std::to_string(age / unit.length) + " " + unit.name;
-  return date > now ? "in " + text : text + " ago";
+  return now - date <= -1s ? "in " + text : text + " ago";
 }
 
 std::string sizeText(std::int64_t bytes) {

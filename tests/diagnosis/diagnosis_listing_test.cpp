@@ -15,9 +15,9 @@ TEST(AgeText, TakesTheUnitThatFits) {
     foundation::TimeInterval age;
     const char* text;
   } cases[] = {
-      {0s, "0 s ago"}, {59999ms, "59 s ago"},     {60s, "1 min ago"}, {119min, "119 min ago"},
-      {2h, "2 h ago"}, {47h + 59min, "47 h ago"}, {48h, "2 d ago"},   {365 * 24h, "365 d ago"},
-      {-1s, "in 1 s"}, {-150min, "in 2 h"},
+      {0s, "0 s ago"},     {59999ms, "59 s ago"},     {60s, "1 min ago"},  {119min, "119 min ago"},
+      {2h, "2 h ago"},     {47h + 59min, "47 h ago"}, {48h, "2 d ago"},    {365 * 24h, "365 d ago"},
+      {-999ms, "0 s ago"}, {-1s, "in 1 s"},           {-150min, "in 2 h"},
   };
   for (const auto& each : cases) EXPECT_EQ(ageText(now - each.age, now), each.text);
 }
@@ -49,7 +49,7 @@ TEST(DiagnosisListing, TellsAFileInALine) {
            .size = 1500,
            .problems = {"x\x1b[31m\xC2\x9B: missing", "é is none"},
            .consequence = "nothing to see"},
-          {.file = "b.json", .state = FileState::unreadable, .problems = {"cannot be read"}, .consequence = "nothing"},
+          {.file = "b.json", .state = FileState::unreadable, .problems = {"Is a directory"}, .consequence = "nothing"},
           {.file = "c.json", .consequence = "nothing yet"},
       }};
   EXPECT_EQ(diagnosisListing(diagnosis, {.now = now, .container = "/c"}),
@@ -60,7 +60,7 @@ TEST(DiagnosisListing, TellsAFileInALine) {
             "  problem: é is none\n"
             "  effect: nothing to see\n"
             "b.json     cannot be read\n"
-            "  problem: cannot be read\n"
+            "  problem: Is a directory\n"
             "  effect: nothing\n"
             "c.json     not there: nothing yet\n"
             "3 problems\n");

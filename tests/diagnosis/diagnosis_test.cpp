@@ -230,10 +230,10 @@ TEST(Diagnosis, SaysWhatFollowsFromAFileThatIsNotToBeRead) {
   const Examined::Files files = {{"tasks.json/inside", ""}, {secondState + "/inside", ""}, {settingsFile, ""}};
   const Examined examined(files);
   EXPECT_EQ(examined["tasks.json"].state, FileState::unreadable);
-  EXPECT_EQ(examined["tasks.json"].problems, Lines{"cannot be read: Is a directory"});
+  EXPECT_EQ(examined["tasks.json"].problems, Lines{"Is a directory"});
   EXPECT_EQ(examined["tasks.json"].consequence,
             "Tasks: no tasks on any day but the pending ones; the same in Events and Tasks");
-  EXPECT_EQ(examined[secondState].problems, Lines{"cannot be read: Is a directory"});
+  EXPECT_EQ(examined[secondState].problems, Lines{"Is a directory"});
   EXPECT_EQ(examined[settingsFile].state, FileState::refused);
   EXPECT_EQ(examined[settingsFile].consequence, "light theme; the colour offset follows the day, for it is not stored");
 }
@@ -266,6 +266,7 @@ TEST(Diagnosis, StaysShortWhateverTheFilesHold) {
   ASSERT_EQ(problems.size(), 21U);
   EXPECT_EQ(problems.back(), "and 19980 more of this kind");
   EXPECT_EQ(examined["habits.json"].state, FileState::refused);
+  EXPECT_TRUE(examined["events.json"].problems.at(0).ends_with("…: not an array"));
   for (const auto& line : examined.problems()) {
     EXPECT_LT(line.size(), 450U) << line;
     EXPECT_NO_THROW(json(line).dump()) << "cut within a character: " << line;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <nlohmann/json.hpp>
 
 #include "support/program.hpp"
@@ -30,8 +31,12 @@ TEST(Doctor, ReportsAndExitsByWhatItFound) {
   EXPECT_TRUE(std::filesystem::is_empty(path)) << "doctor wrote something";
 
   writeBytes(folder / "container/tasks.json", R"({"2026/11/21": [{"type": 1}]})");
+  using namespace std::chrono;
+  const sys_seconds modified = sys_days(November / 21 / 2026) + 4h + 1min;  // the program is told 08:00
+  last_write_time(folder / "container/tasks.json", file_clock::from_sys(modified));
   result = runMirune(folder, "doctor");
   EXPECT_EQ(result.exitCode, 1);
+  EXPECT_NE(result.output.find("3 h ago, 29 B, does not decode\n"), std::string::npos) << result.output;
   EXPECT_NE(result.output.find("  problem: 2026/11/21[0].id: missing\n  effect: Tasks: no tasks"), std::string::npos)
       << result.output;
   EXPECT_EQ(runMirune(folder, "doctor extra").exitCode, 2);

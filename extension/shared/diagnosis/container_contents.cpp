@@ -1,6 +1,5 @@
 #include "shared/diagnosis/container_contents.hpp"
 
-#include "shared/diagnosis/problem_lines.hpp"
 #include "shared/settings.hpp"
 
 namespace mirune {
@@ -35,7 +34,7 @@ messages::FileDiagnosis readSharedFile(const uikit::Platform& platform, const st
   const auto read = foundation::readFile(container / name);
   const bool isMissing = !read && read.error() == std::errc::no_such_file_or_directory;
   if (!read && !isMissing) {
-    return withFileProblem(std::move(file), FileState::unreadable, "cannot be read: " + read.error().message());
+    return withFileProblem(std::move(file), FileState::unreadable, read.error().message());
   }
   const auto refusal = decode(read ? std::optional(*read) : std::nullopt, platform, contents);
   if (refusal) return withFileProblem(std::move(file), FileState::refused, *refusal);

@@ -6,6 +6,7 @@
 #include "foundation/user_defaults.hpp"
 #include "messages/replies.hpp"
 #include "shared/daily_mood.hpp"
+#include "shared/diagnosis/problem_lines.hpp"
 #include "shared/item_files.hpp"
 #include "shared/override_state.hpp"
 
@@ -40,7 +41,7 @@ std::optional<std::string> decodeJSONFile(const std::optional<std::string>& byte
     return std::nullopt;
   }
   (contents.*field).reset();
-  return decoded.error().message();
+  return lineOf(decoded.error());
 }
 
 /// The shared settings, which are opened as widgets open them.

@@ -5,6 +5,7 @@ namespace {
 
 constexpr std::size_t mostLines = 20;
 constexpr std::size_t longestLine = 400;  // bytes
+constexpr std::size_t longestPath = 300;
 constexpr std::size_t longestName = 80;
 
 }  // namespace
@@ -35,6 +36,10 @@ std::string inQuotes(std::string_view text) {
 
 std::string placeOfID(std::string_view key, std::size_t index) {
   return shortened(key, longestName) + "[" + std::to_string(index) + "].id";
+}
+
+std::string lineOf(const foundation::DecodingError& error) {
+  return foundation::DecodingError{.path = shortened(error.path, longestPath), .reason = error.reason}.message();
 }
 
 }  // namespace mirune

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "foundation/decoding_error.hpp"
+
 namespace mirune {
 
 /// Lines that say each what is wrong, and where. They name places and ids, never titles.
@@ -29,5 +31,8 @@ std::string inQuotes(std::string_view text);
 
 /// The id of an item: "2026/11/21[3].id".
 std::string placeOfID(std::string_view key, std::size_t index);
+
+/// What a decoder says, with a path that a line can hold.
+std::string lineOf(const foundation::DecodingError& error);
 
 }  // namespace mirune
