@@ -45,6 +45,7 @@ Command timelineCommand();
 Command placeholderCommand();
 Command snapshotCommand();
 Command renderCommand();
+Command sheetCommand();
 Command tapCommand();
 Command demoCommand();
 Command doctorCommand();

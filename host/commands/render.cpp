@@ -3,10 +3,10 @@
 #include <filesystem>
 #include <vector>
 
-#include "foundation/file_manager.hpp"
 #include "foundation/iso8601.hpp"
 #include "host/commands/command.hpp"
 #include "host/commands/moment.hpp"
+#include "host/commands/picture_file.hpp"
 #include "host/commands/question.hpp"
 #include "host/commands/world_options.hpp"
 #include "host/shown_entry.hpp"
@@ -17,26 +17,6 @@ namespace {
 
 using foundation::JSON;
 using messages::PictureFormat;
-
-struct Ending {
-  const char* text;
-  PictureFormat format;
-};
-constexpr std::array endings = {Ending{".png", PictureFormat::png}, Ending{".svg", PictureFormat::svg},
-                                Ending{".pdf", PictureFormat::pdf}, Ending{".txt", PictureFormat::text},
-                                Ending{".json", PictureFormat::json}};
-
-constexpr double leastScale = 0.1;
-constexpr double greatestScale = 10;
-
-std::expected<PictureFormat, messages::Failure> formatOf(const std::filesystem::path& file) {
-  auto ending = file.extension().string();
-  std::ranges::transform(ending, ending.begin(),
-                         [](char c) { return 'A' <= c && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-  const auto* found = std::ranges::find_if(endings, [&](const Ending& each) { return ending == each.text; });
-  if (found != endings.end()) return found->format;
-  return usage("-o: '" + file.string() + "' does not end in .png, .svg, .pdf, .txt or .json");
-}
 
 std::expected<std::vector<foundation::Date>, messages::Failure> dates(const messages::Timeline& timeline) {
   std::vector<foundation::Date> result;
@@ -49,13 +29,17 @@ std::expected<std::vector<foundation::Date>, messages::Failure> dates(const mess
   return result;
 }
 
+constexpr std::array endings{PictureFormat::png, PictureFormat::svg, PictureFormat::pdf, PictureFormat::text,
+                             PictureFormat::json};
+
 struct Render {
   explicit Render(const Surroundings& surroundings) : extension(surroundings.extension), device(surroundings) {}
 
   Outcome run() const {
-    const auto format = formatOf(file);
+    const auto format = pictureFormat(file, endings);
     if (!format) return std::unexpected(format.error());
-    if (!(leastScale <= scale && scale <= greatestScale)) return usage("--scale: must be from 0.1 to 10");
+    const auto pixels = pictureScale(scale);
+    if (!pixels) return std::unexpected(pixels.error());
     auto world = device.world();
     if (!world) return std::unexpected(world.error());
     const auto drawn = moment("--at", at, world->now);
@@ -66,13 +50,11 @@ struct Render {
     if (!entry) return std::unexpected(entry.error());
     world->now = *drawn;
     const messages::DrawEntry request = {
-        .kind = kind, .family = family, .entry = std::move(*entry), .format = *format, .scale = scale};
+        .kind = kind, .family = family, .entry = std::move(*entry), .format = *format, .scale = *pixels};
     const auto picture = question<messages::Picture>(process, {.world = *world, .request = request});
     if (!picture) return std::unexpected(picture.error());
 
-    const auto written = foundation::writeFileAtomically(file, picture->bytes);
-    if (!written) return failed(file + ": " + written.error().message());
-    return "";
+    return savePicture(file, *picture);
   }
 
   std::expected<JSON, messages::Failure> entryShown(ExtensionProcess& process, const messages::World& world,

@@ -11,20 +11,13 @@ namespace {
 using foundation::JSON;
 using namespace swiftui;
 
-JSON number(double value) {
-  const double rounded = std::round(value * 100) / 100;
-  // Whole numbers are printed as such, and there is no "-0".
-  if (rounded == std::trunc(rounded)) return static_cast<long long>(rounded);
-  return rounded;
-}
-
 JSON jsonOf(Rect frame) {
-  return JSON::array(
-      {number(frame.origin.x), number(frame.origin.y), number(frame.size.width), number(frame.size.height)});
+  return JSON::array({jsonOfLength(frame.origin.x), jsonOfLength(frame.origin.y), jsonOfLength(frame.size.width),
+                      jsonOfLength(frame.size.height)});
 }
 
 void addInk(JSON& json, const Ink& ink) {
-  json["opacity"] = number(ink.opacity);
+  json["opacity"] = jsonOfLength(ink.opacity);
   json["color"] = uikit::hexText(ink.color);
 }
 
@@ -32,12 +25,12 @@ JSON jsonOf(const DrawText& draw) {
   const Font& font = draw.style.font;
   JSON json{{"draw", "text"}, {"text", draw.shown}, {"frame", jsonOf(draw.frame)}};
   json["font"] = font.name.empty() ? "system" : font.name;
-  json["size"] = number(font.size);
+  json["size"] = jsonOfLength(font.size);
   json["weight"] = nameOf(font.weight);
   json["design"] = nameOf(font.design);
   if (font.italic) json["italic"] = true;
-  if (draw.style.kerning != 0) json["kerning"] = number(draw.style.kerning);
-  if (draw.scale != 1) json["scale"] = number(draw.scale);
+  if (draw.style.kerning != 0) json["kerning"] = jsonOfLength(draw.style.kerning);
+  if (draw.scale != 1) json["scale"] = jsonOfLength(draw.scale);
   addInk(json, draw.ink);
   return json;
 }
@@ -45,14 +38,14 @@ JSON jsonOf(const DrawText& draw) {
 JSON jsonOf(const DrawImage& draw) {
   JSON json{{"draw", "image"}, {"name", draw.name}, {"frame", jsonOf(draw.frame)}};
   if (draw.tint) json["tint"] = uikit::hexText(*draw.tint);
-  if (draw.opacity != 1) json["opacity"] = number(draw.opacity);
+  if (draw.opacity != 1) json["opacity"] = jsonOfLength(draw.opacity);
   return json;
 }
 
 JSON jsonOf(const StrokeStyle& stroke) {
   JSON dash = JSON::array();
-  for (const double length : stroke.dash) dash.push_back(number(length));
-  JSON json{{"width", number(stroke.lineWidth)}, {"dash", dash}};
+  for (const double length : stroke.dash) dash.push_back(jsonOfLength(length));
+  JSON json{{"width", jsonOfLength(stroke.lineWidth)}, {"dash", dash}};
   json["lineCap"] = stroke.lineCap == LineCap::round ? "round" : "butt";
   return json;
 }
@@ -63,13 +56,13 @@ JSON jsonOf(const DrawShape& draw) {
                  [&](const Rectangle&) { json["shape"] = "rectangle"; },
                  [&](const RoundedRectangle& shape) {
                    json["shape"] = "roundedRectangle";
-                   json["cornerRadius"] = number(shape.cornerRadius);
+                   json["cornerRadius"] = jsonOfLength(shape.cornerRadius);
                  },
                  [&](const Circle&) { json["shape"] = "circle"; },
                  [&](const Arc& arc) {
                    json["shape"] = "arc";
-                   json["startAngle"] = number(arc.startAngle);
-                   json["endAngle"] = number(arc.endAngle);
+                   json["startAngle"] = jsonOfLength(arc.startAngle);
+                   json["endAngle"] = jsonOfLength(arc.endAngle);
                  },
              },
              draw.shape);
@@ -98,11 +91,18 @@ void describe(JSON& entry, const ToggleMeaning& toggle) {
 
 void describe(JSON& entry, const GaugeMeaning& gauge) {
   entry["role"] = "gauge";
-  entry["value"] = number(gauge.value);
-  entry["total"] = number(gauge.total);
+  entry["value"] = jsonOfLength(gauge.value);
+  entry["total"] = jsonOfLength(gauge.total);
 }
 
 }  // namespace
+
+JSON jsonOfLength(double points) {
+  const double rounded = std::round(points * 100) / 100;
+  // Whole numbers are printed as such, and there is no "-0".
+  if (rounded == std::trunc(rounded)) return static_cast<long long>(rounded);
+  return rounded;
+}
 
 JSON jsonOf(const DisplayList& list) {
   JSON json = JSON::array();

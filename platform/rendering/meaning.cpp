@@ -1,5 +1,6 @@
 #include "rendering/meaning.hpp"
 
+#include <algorithm>
 #include <cmath>
 
 namespace rendering {
@@ -7,13 +8,13 @@ namespace {
 
 using namespace swiftui;
 
-bool isSaid(const Paint& paint) {
-  return paint.isVisible() && !paint.accessibilityHidden;
+bool isSaid(const TextElement& text) {
+  return text.paint.isVisible() && !text.paint.accessibilityHidden && !text.content.empty();
 }
 
 /// The texts below an element, joined to one label.
 void appendLabel(const PlacedElement& placed, std::string& label) {
-  if (const auto* text = std::get_if<TextElement>(&placed.element->value); text != nullptr && isSaid(text->paint)) {
+  if (const auto* text = std::get_if<TextElement>(&placed.element->value); text != nullptr && isSaid(*text)) {
     if (!label.empty()) label += ", ";
     label += text->content;
   }
@@ -34,7 +35,7 @@ void collectMeaning(const PlacedElement& placed, Meaning& meaning) {
     return;
   }
   if (const auto* text = std::get_if<TextElement>(&placed.element->value)) {
-    if (isSaid(text->paint) && !text->content.empty()) {
+    if (isSaid(*text)) {
       meaning.push_back({.label = text->content, .frame = placed.frame});
     }
     return;
@@ -43,12 +44,16 @@ void collectMeaning(const PlacedElement& placed, Meaning& meaning) {
 }
 
 std::string plainText(const Meaning& meaning) {
+  const auto onOneLine = [](std::string label) {
+    std::ranges::replace_if(label, [](char c) { return c == '\n' || c == '\r'; }, ' ');
+    return label;
+  };
   std::string lines;
   for (const MeaningItem& item : meaning) {
     const auto* toggle = item.control ? std::get_if<ToggleMeaning>(&*item.control) : nullptr;
     const auto* gauge = item.control ? std::get_if<GaugeMeaning>(&*item.control) : nullptr;
     if (toggle != nullptr) lines += toggle->isOn ? "[x] " : "[ ] ";
-    lines += item.label;
+    lines += onOneLine(item.label);
     if (gauge != nullptr) lines += " (" + wholeNumber(gauge->value) + " of " + wholeNumber(gauge->total) + ")";
     lines += "\n";
   }

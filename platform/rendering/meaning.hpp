@@ -22,7 +22,8 @@ using Meaning = std::vector<MeaningItem>;
 
 void collectMeaning(const swiftui::PlacedElement& placed, Meaning& meaning);
 
-/// One line for each item: the text, "[ ] label", "[x] label", or "label (2 of 5)".
+/// One line for each item: the text, "[ ] label", "[x] label", or "label (2 of 5)". Line breaks within a label become
+/// blanks.
 std::string plainText(const Meaning& meaning);
 
 }  // namespace rendering

@@ -27,16 +27,31 @@ void check(cairo_status_t status) {
   foundation::fatalError(std::string("drawing failed: ") + cairo_status_to_string(status));
 }
 
-/// Paints the scene, cut to the widget's outline.
-void paint(const Scene& scene, cairo_surface_t* surface, double scale, const TextEngine& text,
+/// Paints a scene where the origin is, cut to the widget's outline.
+void paint(const Scene& scene, cairo_t* cairo, const CairoPlayer& player) {
+  if (scene.cornerRadius > 0) {
+    cairo_new_path(cairo);
+    addRoundedRectangle(cairo, {.origin = {}, .size = scene.size}, scene.cornerRadius);
+    cairo_clip(cairo);
+  }
+  player.play(scene.drawn);
+}
+
+void paint(const Composition& composition, cairo_surface_t* surface, double scale, const TextEngine& text,
            const AssetCatalog& assets) {
   const CairoHandle cairo(cairo_create(surface));
   cairo_scale(cairo.get(), scale, scale);
-  if (scene.cornerRadius > 0) {
-    addRoundedRectangle(cairo.get(), {.origin = {}, .size = scene.size}, scene.cornerRadius);
-    cairo_clip(cairo.get());
+  if (const uikit::RGBA& ground = composition.ground; ground.alpha > 0) {
+    cairo_set_source_rgba(cairo.get(), ground.red, ground.green, ground.blue, ground.alpha);
+    cairo_paint(cairo.get());
   }
-  CairoPlayer(cairo.get(), scale, text, assets).play(scene.drawn);
+  const CairoPlayer player(cairo.get(), scale, text, assets);
+  for (const Tile& tile : composition.tiles) {
+    cairo_save(cairo.get());
+    cairo_translate(cairo.get(), tile.origin.x, tile.origin.y);
+    paint(tile.scene, cairo.get(), player);
+    cairo_restore(cairo.get());
+  }
   check(cairo_status(cairo.get()));
 }
 
@@ -59,35 +74,35 @@ swiftui::Size Renderer::imageSize(const swiftui::ImageElement& image) const {
   return assets_->size({.name = image.name, .isSymbol = image.isSymbol, .colorScheme = image.paint.colorScheme});
 }
 
-std::string Renderer::png(const Scene& scene, double scale) const {
+std::string Renderer::png(const Composition& composition, double scale) const {
   const auto pixels = [&](double points) { return static_cast<int>(std::lround(points * scale)); };
   const SurfaceHandle surface(
-      cairo_image_surface_create(CAIRO_FORMAT_ARGB32, pixels(scene.size.width), pixels(scene.size.height)));
-  paint(scene, surface.get(), scale, *text_, *assets_);
+      cairo_image_surface_create(CAIRO_FORMAT_ARGB32, pixels(composition.size.width), pixels(composition.size.height)));
+  paint(composition, surface.get(), scale, *text_, *assets_);
   return encodePNG(surface.get());
 }
 
-std::string Renderer::svg(const Scene& scene) const {
+std::string Renderer::svg(const Composition& composition) const {
   std::string bytes;
   {
     const SurfaceHandle surface(
-        cairo_svg_surface_create_for_stream(append, &bytes, scene.size.width, scene.size.height));
+        cairo_svg_surface_create_for_stream(append, &bytes, composition.size.width, composition.size.height));
     cairo_svg_surface_set_document_unit(surface.get(), CAIRO_SVG_UNIT_PX);
-    paint(scene, surface.get(), 1, *text_, *assets_);
+    paint(composition, surface.get(), 1, *text_, *assets_);
     cairo_surface_finish(surface.get());
     check(cairo_surface_status(surface.get()));
   }
   return bytes;
 }
 
-std::string Renderer::pdf(const Scene& scene, foundation::Date created) const {
+std::string Renderer::pdf(const Composition& composition, foundation::Date created) const {
   std::string bytes;
   {
     const SurfaceHandle surface(
-        cairo_pdf_surface_create_for_stream(append, &bytes, scene.size.width, scene.size.height));
+        cairo_pdf_surface_create_for_stream(append, &bytes, composition.size.width, composition.size.height));
     const std::string moment = foundation::formatISO8601(created);
     cairo_pdf_surface_set_metadata(surface.get(), CAIRO_PDF_METADATA_CREATE_DATE, moment.c_str());
-    paint(scene, surface.get(), 1, *text_, *assets_);
+    paint(composition, surface.get(), 1, *text_, *assets_);
     cairo_surface_finish(surface.get());
     check(cairo_surface_status(surface.get()));
   }

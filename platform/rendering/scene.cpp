@@ -37,7 +37,8 @@ Scene compose(const ResolvedWidget& widget, const SceneOptions& options, const L
   };
   if (widget.containerBackground) add(*widget.containerBackground, {.origin = {}, .size = options.size});
   const EdgeInsets& margins = options.margins;
-  add(widget.content, {.origin = {.x = margins.leading, .y = margins.top},
+  const double left = options.direction == LayoutDirection::rightToLeft ? margins.trailing : margins.leading;
+  add(widget.content, {.origin = {.x = left, .y = margins.top},
                        .size = {.width = options.size.width - margins.leading - margins.trailing,
                                 .height = options.size.height - margins.top - margins.bottom}});
   return scene;

@@ -23,6 +23,11 @@ struct Limits {
   std::optional<double> max;
 };
 
+/// Only the upper limit may be endless.
+Limits usable(std::optional<double> min, std::optional<double> ideal, std::optional<double> max) {
+  return {.min = usable(min), .ideal = usable(ideal), .max = max == infinity ? max : usable(max)};
+}
+
 double clamped(double length, const Limits& limits) {
   // The lower limit wins over the upper one.
   return std::max(limits.min.value_or(0), std::min(limits.max.value_or(infinity), length));
@@ -55,8 +60,8 @@ LayoutResult layoutFixedFrame(LayoutEngine& engine, const Element& element, cons
 
 LayoutResult layoutFlexibleFrame(LayoutEngine& engine, const Element& element, const FlexibleFrame& frame,
                                  ProposedSize proposal) {
-  const Limits horizontal{.min = frame.minWidth, .ideal = frame.idealWidth, .max = frame.maxWidth};
-  const Limits vertical{.min = frame.minHeight, .ideal = frame.idealHeight, .max = frame.maxHeight};
+  const Limits horizontal = usable(frame.minWidth, frame.idealWidth, frame.maxWidth);
+  const Limits vertical = usable(frame.minHeight, frame.idealHeight, frame.maxHeight);
   const ProposedSize inner{.width = offeredBy(proposal.width, horizontal),
                            .height = offeredBy(proposal.height, vertical)};
   const LayoutResult& child = engine.measure(element.children.front(), inner);

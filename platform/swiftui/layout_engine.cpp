@@ -20,8 +20,8 @@ double roundedToPixel(double points, double scale) {
 LayoutResult layoutText(const LayoutEngine& engine, const TextElement& text, ProposedSize proposal) {
   auto layout = std::make_shared<const TextLayout>(engine.measurer().layoutText(text.content, text.style, proposal));
   const double scale = engine.displayScale();
-  // A text that fits does not outgrow its proposal by being rounded to pixels.
-  const double limit = std::max(layout->width(), proposal.width.value_or(infinity));
+  // A text does not outgrow its proposal, be it by rounding or by a letter that is too wide for any line.
+  const double limit = std::max(0.0, proposal.width.value_or(infinity));
   const double ascent = layout->metrics.ascent;
   const double aboveLastLine = layout->height() - layout->metrics.lineHeight();
   return {.size = {.width = std::min(roundedUp(layout->width(), scale), limit),
@@ -65,13 +65,16 @@ LayoutResult layoutPadding(LayoutEngine& engine, const Element& element, const E
   };
   const ProposedSize inner{.width = less(proposal.width, horizontal), .height = less(proposal.height, vertical)};
   const LayoutResult& child = engine.measure(element.children.front(), inner);
-  return enclosing(child, {.width = child.size.width + horizontal, .height = child.size.height + vertical},
-                   {.x = insets.leading, .y = insets.top}, inner);
+  return enclosing(
+      child,
+      {.width = std::max(0.0, child.size.width + horizontal), .height = std::max(0.0, child.size.height + vertical)},
+      {.x = insets.leading, .y = insets.top}, inner);
 }
 
 LayoutResult layoutLayer(LayoutEngine& engine, const Element& element, const LayerElement& layer,
                          ProposedSize proposal) {
   LayoutResult result = engine.measure(element.children[0], proposal);
+  result.text = nullptr;
   const ProposedSize offered = ProposedSize::of(result.size);
   const LayoutResult& secondary = engine.measure(element.children[1], offered);
   const Point origin{.x = guide(layer.alignment.horizontal, result) - guide(layer.alignment.horizontal, secondary),

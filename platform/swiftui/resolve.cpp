@@ -65,9 +65,7 @@ class Resolver {
 
   void append(const StackNode& node, const EnvironmentValues& environment, Elements& out) {
     Elements children = all(node.children, environment);
-    for (Element& child : children) {
-      if (auto* spacer = std::get_if<SpacerElement>(&child.value)) spacer->axis = node.axis;
-    }
+    for (Element& child : children) stretchAlong(node.axis, child);
     out.push_back({.value = StackElement{.axis = node.axis, .alignment = node.alignment, .spacing = node.spacing},
                    .children = std::move(children)});
   }
@@ -96,10 +94,12 @@ class Resolver {
   }
 
   void append(const LayerNode& node, const EnvironmentValues& environment, Elements& out) {
-    Element content = single(node.content, environment);
-    Element secondary = single(node.secondary, environment);
-    out.push_back({.value = LayerElement{.isBehind = node.isBehind, .alignment = node.alignment},
-                   .children = {std::move(content), std::move(secondary)}});
+    Elements elements =
+        wrapped(node.content, environment, LayerElement{.isBehind = node.isBehind, .alignment = node.alignment});
+    for (Element& element : elements) {
+      element.children.push_back(single(node.secondary, environment));
+      out.push_back(std::move(element));
+    }
   }
   void append(const ContainerBackgroundNode& node, const EnvironmentValues& environment, Elements& out) {
     append(node.content, environment, out);
@@ -135,13 +135,27 @@ class Resolver {
   /// A modifier of a group is one of each of its members.
   template <class Wrapper>
   void wrapEach(const View& content, const EnvironmentValues& environment, const Wrapper& wrapper, Elements& out) {
-    Elements elements;
-    append(content, environment, elements);
-    for (Element& element : elements) {
-      Element wrapped{.value = wrapper, .children = {}};
-      wrapped.children.push_back(std::move(element));
-      out.push_back(std::move(wrapped));
+    for (Element& element : wrapped(content, environment, wrapper)) out.push_back(std::move(element));
+  }
+
+  template <class Wrapper>
+  Elements wrapped(const View& content, const EnvironmentValues& environment, const Wrapper& wrapper) {
+    Elements wrappers;
+    Elements contents;
+    append(content, environment, contents);
+    for (Element& element : contents) {
+      Element& added = wrappers.emplace_back(Element{.value = wrapper, .children = {}});
+      added.children.push_back(std::move(element));
     }
+    return wrappers;
+  }
+
+  /// A spacer knows its stack through all that is laid around it; a container of its own stands between them.
+  static void stretchAlong(Axis axis, Element& element) {
+    if (auto* spacer = std::get_if<SpacerElement>(&element.value)) spacer->axis = axis;
+    const bool isContainer =
+        std::holds_alternative<StackElement>(element.value) || std::holds_alternative<ZStackElement>(element.value);
+    if (!isContainer && !element.children.empty()) stretchAlong(axis, element.children.front());
   }
 
   static Paint paint(const EnvironmentValues& environment) {

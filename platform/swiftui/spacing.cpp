@@ -64,8 +64,9 @@ void appendEdges(const Element& element, Side side, Axis axis, const LayoutEngin
                  },
                  [&](const PaddingElement& padding) {
                    const EdgeInsets& insets = padding.insets;
-                   childUnless(isVertical ? insets.top != 0 || insets.bottom != 0
-                                          : insets.leading != 0 || insets.trailing != 0);
+                   const bool isBefore = side == Side::before;
+                   childUnless((isVertical ? (isBefore ? insets.top : insets.bottom)
+                                           : (isBefore ? insets.leading : insets.trailing)) != 0);
                  },
                  [&](const FixedFrameElement& frame) {
                    childUnless(isVertical ? frame.frame.height.has_value() : frame.frame.width.has_value());

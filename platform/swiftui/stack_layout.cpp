@@ -46,14 +46,17 @@ struct Share {
   double priority = 0;
   double min = 0;
   double max = 0;
+
+  /// How much it can give way; without end also where its smallest length has none.
+  double flexibility() const { return std::isinf(max) ? infinity : max - min; }
 };
 
 /// Who is asked first: the higher priority, then the less flexible; of two that stretch without end the one that needs
 /// more.
 bool isAskedBefore(const Share& a, const Share& b) {
   if (a.priority != b.priority) return a.priority > b.priority;
-  const bool bothEndless = std::isinf(a.max) && std::isinf(b.max);
-  return bothEndless ? a.min > b.min : a.max - a.min < b.max - b.min;
+  if (a.flexibility() != b.flexibility()) return a.flexibility() < b.flexibility();
+  return std::isinf(a.max) && a.min > b.min;
 }
 
 class StackLayout {
@@ -87,7 +90,8 @@ class StackLayout {
       inheritBaselines(result, child, origin.y);
       position += axes_.major(child.size);
     }
-    result.size = axes_.make<Size>(position, guideLine + behindGuide);
+    // Children that overlap by more than they are long leave the stack no length.
+    result.size = axes_.make<Size>(std::max(0.0, position), guideLine + behindGuide);
     return result;
   }
 

@@ -30,6 +30,16 @@ messages::Reply answerTo(ExtensionService& service, const foundation::JSON& head
   });
 }
 
+/// Whether the host has got the answer, or that it is too large for a message.
+bool send(messages::Channel& channel, const messages::Reply& reply) {
+  const auto* picture = std::get_if<messages::Picture>(&reply);
+  const auto sent = channel.send(foundation::JSON(reply), picture != nullptr ? picture->bytes : std::string_view());
+  if (sent || sent.error() != messages::ChannelError::malformed) return sent.has_value();
+  const messages::Reply refusal =
+      messages::Failure{.reason = messages::Failure::Reason::failed, .message = "the answer is too large to send"};
+  return channel.send(foundation::JSON(refusal)).has_value();
+}
+
 }  // namespace
 
 int serveHost(ExtensionService& service, int descriptor) {
@@ -40,8 +50,7 @@ int serveHost(ExtensionService& service, int descriptor) {
   messages::Channel channel(descriptor);
   while (const auto frame = channel.receive()) {
     const messages::Reply reply = answerTo(service, frame->header, channel);
-    const auto* picture = std::get_if<messages::Picture>(&reply);
-    if (!channel.send(foundation::JSON(reply), picture != nullptr ? picture->bytes : std::string_view())) break;
+    if (!send(channel, reply)) break;
   }
   return 0;
 }

@@ -3,6 +3,7 @@
 #include <expected>
 
 #include "widgetkit/widget_drawing.hpp"
+#include "widgetkit/widget_sheet.hpp"
 
 namespace widgetkit {
 namespace {
@@ -15,6 +16,11 @@ constexpr double largestScale = 10;
 
 Failure usage(std::string message) {
   return {.reason = Failure::Reason::usage, .message = std::move(message)};
+}
+
+std::optional<Failure> refusedScale(double scale) {
+  if (scale >= smallestScale && scale <= largestScale) return std::nullopt;
+  return usage("a scale has to lie from 0.1 to 10 pixels per point");
 }
 
 std::expected<StaticConfiguration, Failure> widgetNamed(const std::vector<StaticConfiguration>& widgets,
@@ -39,7 +45,7 @@ std::expected<swiftui::WidgetFamily, Failure> familyNamed(const std::string& nam
 }  // namespace
 
 Reply ExtensionService::answer(const messages::Envelope& envelope, const ReportProgress& report) {
-  report_ = report;
+  report_ = report ? report : [](const messages::Progress&) {};
   const auto platform = platformFor(envelope.world, resources_);
   if (!platform) return platform.error();
   try {
@@ -69,18 +75,21 @@ Reply ExtensionService::answer(const messages::DrawEntry& request, const uikit::
   if (!widget) return widget.error();
   const auto family = familyNamed(request.family);
   if (!family) return family.error();
-  if (!(request.scale >= smallestScale && request.scale <= largestScale)) {
-    return usage("a scale has to lie from 0.1 to 10 pixels per point");
-  }
+  if (const auto refused = refusedScale(request.scale)) return *refused;
   const rendering::Scene scene = sceneOf(*widget, *family, request.entry, platform, request.scale, renderer());
   using enum messages::PictureFormat;
   if (request.format == text) return messages::Picture{.bytes = rendering::plainText(scene.meaning)};
   if (request.format == json) return messages::Picture{.bytes = documentOf(scene, widget->kind(), *family)};
-  return messages::Picture{.bytes = pictureOf(scene, request.format, request.scale, platform.now, renderer())};
+  return messages::Picture{
+      .bytes = pictureOf(rendering::alone(scene), request.format, request.scale, platform.now, renderer())};
 }
 
-Reply ExtensionService::answer(const messages::DrawSheet&, const uikit::Platform&) {
-  return Failure{.reason = Failure::Reason::failed, .message = "not there yet"};
+Reply ExtensionService::answer(const messages::DrawSheet& request, const uikit::Platform& platform) {
+  using enum messages::PictureFormat;
+  if (const auto refused = refusedScale(request.scale)) return *refused;
+  if (request.format == text || request.format == json) return usage("a sheet is a picture: PNG, SVG or PDF");
+  const auto sheet = sheetOf(content_.widgets(platform), platform, request.scale, renderer(), report_);
+  return messages::Picture{.bytes = pictureOf(sheet, request.format, request.scale, platform.now, renderer())};
 }
 
 Reply ExtensionService::answer(const messages::PerformIntent& request, const uikit::Platform& platform) {

@@ -27,13 +27,13 @@ class StaticConfiguration {
  public:
   template <TimelineProvider Provider, class Content>
     requires std::is_invocable_r_v<swiftui::View, Content, const typename Provider::Entry&>
-  StaticConfiguration(std::string kind, Provider provider, Content content)
+  StaticConfiguration(std::string kind, Provider provider, Content show)
       : kind_(std::move(kind)),
         entries_([provider](const uikit::Platform& platform, messages::ProviderOperation operation) {
           return ask(provider, platform, operation);
         }),
-        content_([content](const foundation::JSON& entry) -> swiftui::View {
-          return content(entry.get<typename Provider::Entry>());
+        content_([show](const foundation::JSON& entry) -> swiftui::View {
+          return show(entry.get<typename Provider::Entry>());
         }) {}
 
   StaticConfiguration supportedFamilies(std::vector<swiftui::WidgetFamily> families) const;
@@ -50,6 +50,7 @@ class StaticConfiguration {
   const std::string& shortName() const { return shortName_; }
   bool areContentMarginsDisabled() const { return areContentMarginsDisabled_; }
   bool isContainerBackgroundRemovable() const { return isContainerBackgroundRemovable_; }
+  const std::vector<swiftui::WidgetFamily>& families() const { return families_; }
   messages::WidgetDescription describe() const;
 
   /// Asks the provider.

@@ -41,15 +41,15 @@ rendering::Scene sceneOf(const StaticConfiguration& widget, WidgetFamily family,
                             measurer);
 }
 
-std::string pictureOf(const rendering::Scene& scene, messages::PictureFormat format, double scale,
+std::string pictureOf(const rendering::Composition& composition, messages::PictureFormat format, double scale,
                       foundation::Date created, const rendering::Renderer& renderer) {
   switch (format) {
     case messages::PictureFormat::png:
-      return renderer.png(scene, scale);
+      return renderer.png(composition, scale);
     case messages::PictureFormat::svg:
-      return renderer.svg(scene);
+      return renderer.svg(composition);
     case messages::PictureFormat::pdf:
-      return renderer.pdf(scene, created);
+      return renderer.pdf(composition, created);
     case messages::PictureFormat::text:
     case messages::PictureFormat::json:
       break;
@@ -60,12 +60,12 @@ std::string pictureOf(const rendering::Scene& scene, messages::PictureFormat for
 std::string documentOf(const rendering::Scene& scene, const std::string& kind, WidgetFamily family) {
   const foundation::JSON document{{"kind", kind},
                                   {"family", swiftui::nameOf(family)},
-                                  {"width", scene.size.width},
-                                  {"height", scene.size.height},
+                                  {"width", rendering::jsonOfLength(scene.size.width)},
+                                  {"height", rendering::jsonOfLength(scene.size.height)},
                                   {"colorScheme", scene.colorScheme == uikit::ColorScheme::dark ? "dark" : "light"},
                                   {"drawn", rendering::jsonOf(scene.drawn)},
                                   {"meaning", rendering::jsonOf(scene.meaning)}};
-  return document.dump(2) + "\n";
+  return document.dump(2, ' ', false, foundation::JSON::error_handler_t::replace) + "\n";
 }
 
 }  // namespace widgetkit

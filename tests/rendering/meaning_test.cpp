@@ -1,0 +1,63 @@
+#include "rendering/meaning.hpp"
+
+#include <gtest/gtest.h>
+
+#include "rendering/display_list_json.hpp"
+#include "support/fake_measurer.hpp"
+
+namespace rendering {
+namespace {
+
+using namespace swiftui;
+
+struct Complete {
+  static constexpr const char* name = "Complete";
+  static constexpr const char* title = "Mark Complete";
+  std::optional<foundation::Date> date;
+
+  std::vector<appintents::IntentParameter> parameters() const {
+    return {{.title = "id", .value = std::string("A1")}, {.title = "date", .value = date}};
+  }
+};
+
+Meaning meaningOf(const View& view, Size size = {200, 100}) {
+  const ResolvedWidget widget = resolve(view, {});
+  Meaning meaning;
+  collectMeaning(layout(widget.content, {.bounds = {.size = size}}, support::FakeMeasurer()), meaning);
+  return meaning;
+}
+
+TEST(Meaning, IsWhatAReaderMeetsInOrder) {
+  const View shown =
+      vstack({}, {
+                     text("TODAY"),
+                     toggle({.isOn = true, .intent = Complete{}},
+                            hstack({}, {text("x").accessibilityHidden(), text("Buy milk"), text(""), text("09:00")})),
+                     toggle({}, text("Water the ferns on the balcony").lineLimit(1)),
+                     text("hidden").accessibilityHidden(),
+                     text("faded").opacity(0),
+                     text("clear").foregroundColor(uikit::clear),
+                     text(""),
+                     text("two\nlines").background(text("behind")),
+                 });
+  EXPECT_EQ(plainText(meaningOf(shown)),
+            "TODAY\n"
+            "[x] Buy milk, 09:00\n"
+            "[ ] Water the ferns on the balcony\n"
+            "behind\n"
+            "two lines\n");
+}
+
+TEST(Meaning, PrintsAsJSON) {
+  const foundation::Date date = foundation::JSON("2026-11-21T08:00:00Z").get<foundation::Date>();
+  const View box = toggle({.isOn = false, .intent = Complete{date}}, text("milk"));
+  EXPECT_EQ(
+      jsonOf(meaningOf(box, {40, 10})).dump(),
+      R"([{"role":"checkbox","label":"milk","checked":false,"id":"A1","date":"2026-11-21T08:00:00Z","frame":[0,0,40,10]}])");
+  EXPECT_EQ(jsonOf(meaningOf(toggle({.intent = Complete{}}, text("milk")), {40, 10}))[0]["date"], nullptr);
+  EXPECT_EQ(jsonOf(meaningOf(text("ab"), {41, 10.333})).dump(),
+            R"([{"role":"text","label":"ab","frame":[10.5,0.17,20,10]}])");
+}
+
+}  // namespace
+}  // namespace rendering
