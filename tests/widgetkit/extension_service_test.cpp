@@ -141,7 +141,8 @@ TEST(ExtensionService, SaysWhyItDoesNotAnswer) {
       {DrawEntry{.kind = "clock", .family = "systemSmall", .entry = entry, .scale = 0}, usage, "scale"},
       {DrawEntry{.kind = "clock", .family = "systemSmall", .entry = entry, .scale = 17}, usage, "scale"},
       {DrawEntry{.kind = "clock", .family = "systemSmall", .entry = entry, .scale = std::nan("")}, usage, "scale"},
-      {DrawEntry{.kind = "clock", .family = "systemSmall", .entry = JSON::object()}, failed, "the request does not fit"},
+      {DrawEntry{.kind = "clock", .family = "systemSmall", .entry = JSON::object()}, failed,
+       "the request does not fit"},
       {DrawEntry{.kind = "clock", .family = "systemSmall", .entry = JSON("word")}, failed, "the request does not fit"},
       {DrawEntry{.kind = "clock", .family = "systemSmall", .entry = undrawable}, failed, "no such hour"},
   };
