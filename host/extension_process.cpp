@@ -38,7 +38,7 @@ class FileActions {
   const posix_spawn_file_actions_t* get() const { return &actions_; }
 
  private:
-  posix_spawn_file_actions_t actions_;
+  posix_spawn_file_actions_t actions_ = {};
 };
 
 /// The program with its standard error on `errors` and its descriptor 3 on `connection`; no other descriptor of ours
@@ -106,15 +106,17 @@ std::expected<void, std::string> ExtensionProcess::start() {
   return {};
 }
 
-std::expected<messages::Reply, std::string> ExtensionProcess::ask(const messages::Envelope& envelope) {
+std::expected<messages::Reply, std::string> ExtensionProcess::ask(const messages::Envelope& envelope,
+                                                                  const ReportProgress& report) {
   if (!running_) {
     if (const auto started = start(); !started) return std::unexpected(started.error());
   }
-  return exchange(envelope);
+  return exchange(envelope, report);
 }
 
-std::expected<messages::Reply, std::string> ExtensionProcess::exchange(const messages::Envelope& envelope) {
-  const auto deadline = std::chrono::steady_clock::now() + options_.timeLimit;
+std::expected<messages::Reply, std::string> ExtensionProcess::exchange(const messages::Envelope& envelope,
+                                                                       const ReportProgress& report) {
+  auto deadline = std::chrono::steady_clock::now() + options_.timeLimit;
   const auto failed = [this](messages::ChannelError error) {
     std::string reason;
     switch (error) {
@@ -134,14 +136,21 @@ std::expected<messages::Reply, std::string> ExtensionProcess::exchange(const mes
 
   messages::Channel channel(running_->connection.get());
   if (const auto sent = channel.send(envelope, {}, deadline); !sent) return failed(sent.error());
-  auto frame = channel.receive(deadline);
-  if (!frame) return failed(frame.error());
-  try {
-    auto reply = frame->header.get<messages::Reply>();
-    if (auto* picture = std::get_if<messages::Picture>(&reply)) picture->bytes = std::move(frame->payload);
-    return reply;
-  } catch (const foundation::JSON::exception&) {
-    return failed(messages::ChannelError::malformed);
+  while (true) {
+    auto frame = channel.receive(deadline);
+    if (!frame) return failed(frame.error());
+    try {
+      auto reply = frame->header.get<messages::Reply>();
+      const auto* progress = std::get_if<messages::Progress>(&reply);
+      if (progress == nullptr) {
+        if (auto* picture = std::get_if<messages::Picture>(&reply)) picture->bytes = std::move(frame->payload);
+        return reply;
+      }
+      if (report) report(*progress);
+      deadline = std::chrono::steady_clock::now() + options_.timeLimit;
+    } catch (const foundation::JSON::exception&) {
+      return failed(messages::ChannelError::malformed);
+    }
   }
 }
 

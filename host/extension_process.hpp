@@ -3,6 +3,7 @@
 #include <chrono>
 #include <expected>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -23,8 +24,12 @@ class ExtensionProcess {
     std::chrono::milliseconds timeLimit = std::chrono::seconds(30);  ///< for one request, start included
   };
 
+  using ReportProgress = std::function<void(const messages::Progress&)>;
+
   explicit ExtensionProcess(Options options);
   ~ExtensionProcess();
+  ExtensionProcess(const ExtensionProcess&) = delete;
+  ExtensionProcess& operator=(const ExtensionProcess&) = delete;
 
   /// The answer (a messages::Failure is one too), or one line that says why there is none:
   ///
@@ -32,7 +37,9 @@ class ExtensionProcess {
   ///   the widget extension did not answer within 30 s
   ///
   /// In that case the process is gone when this returns.
-  std::expected<messages::Reply, std::string> ask(const messages::Envelope& envelope);
+  /// `report` is told how far a long answer is; the time limit begins anew each time.
+  std::expected<messages::Reply, std::string> ask(const messages::Envelope& envelope,
+                                                  const ReportProgress& report = {});
 
   /// Lets the process go: closes the connection, and kills it where it does not end within a second.
   void stop();
@@ -41,7 +48,8 @@ class ExtensionProcess {
   struct Running;
 
   std::expected<void, std::string> start();
-  std::expected<messages::Reply, std::string> exchange(const messages::Envelope& envelope);
+  std::expected<messages::Reply, std::string> exchange(const messages::Envelope& envelope,
+                                                       const ReportProgress& report);
   std::string whyStopped();
 
   Options options_;

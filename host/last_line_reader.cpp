@@ -48,7 +48,7 @@ void LastLineReader::read() {
 }
 
 bool LastLineReader::take() {
-  std::array<char, 65536> buffer;
+  std::array<char, 65536> buffer = {};
   // A pipe holds 64 KiB; a few rounds take all that is there, and a writer that never rests does not keep us.
   for (int round = 0; round < 16; ++round) {
     const ssize_t count = ::read(pipe_.get(), buffer.data(), buffer.size());

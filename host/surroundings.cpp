@@ -16,7 +16,7 @@ std::string_view variable(const char* name) {
   return value ? value : std::string_view();
 }
 
-std::filesystem::path variableOr(const char* name, std::filesystem::path otherwise) {
+std::filesystem::path variableOr(const char* name, const std::filesystem::path& otherwise) {
   const auto value = variable(name);
   return value.empty() ? otherwise : std::filesystem::path(value);
 }
@@ -41,7 +41,7 @@ Surroundings currentSurroundings() {
 }
 
 std::filesystem::path defaultContainer(const ContainerVariables& variables) {
-  const auto below = [](std::filesystem::path data) { return data / "mirune" / appGroup; };
+  const auto below = [](const std::filesystem::path& data) { return data / "mirune" / appGroup; };
   const std::filesystem::path dataHome = variables.dataHome;
   if (!variables.container.empty()) return variables.container;
   if (dataHome.is_absolute()) return below(dataHome);

@@ -16,6 +16,12 @@ class Mirune_WidgetsColl {
 
   /// The widgets in the gallery's order.
   std::vector<widgetkit::StaticConfiguration> body(const uikit::Platform& platform) const;
+
+  /// Runs "Mark Task Complete" (the intent "TaskIntent" with the parameters id, a text, and date, a moment or null);
+  /// false for every other name.
+  bool perform(const std::string& intent, const foundation::JSON& parameters, const uikit::Platform& platform) const;
+
+  messages::Diagnosis diagnose(const uikit::Platform& platform) const;
 };
 
 }  // namespace mirune

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "appintents/app_intent.hpp"
+#include "uikit/platform.hpp"
 
 namespace mirune {
 
@@ -19,6 +20,11 @@ struct TaskIntent {
   std::vector<appintents::IntentParameter> parameters() const {
     return {{.title = "id", .value = id}, {.title = "date", .value = date}};
   }
+
+  /// Records the mark in both override files of the container, each by itself: a file that is missing or does not
+  /// decode starts from nothing, one that cannot be written is left. Two taps at the same moment may overwrite each
+  /// other's mark, but never leave a torn file. Never fails; the debug log says what happened.
+  void perform(const uikit::Platform& platform) const;
 };
 
 }  // namespace mirune

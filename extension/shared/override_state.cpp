@@ -15,13 +15,18 @@ std::string comparable(std::string_view id) {
   return uuid ? uuid->string() : std::string(id);
 }
 
-std::string printed(const OverrideState& state) {
+}  // namespace
+
+std::string encodeOverrideState(const OverrideState& state) {
   foundation::JSON json = foundation::JSON::object();
   for (const auto& [id, date] : state) json[id] = foundation::formatISO8601(date);
   return json.dump();
 }
 
-}  // namespace
+std::optional<OverrideState> decodeOverrideState(std::string_view bytes) {
+  auto state = foundation::decodeJSON<OverrideState>(bytes);
+  return state ? std::optional(std::move(*state)) : std::nullopt;
+}
 
 OverrideState readOverrideState(const uikit::Platform& platform) {
   const auto container = platform.files.containerURL();
@@ -29,9 +34,9 @@ OverrideState readOverrideState(const uikit::Platform& platform) {
   const auto bytes = foundation::readFile(*container / timelineOverrideFile);
   if (!bytes) return {};
   platform.log(*bytes);
-  auto state = foundation::decodeJSON<OverrideState>(*bytes);
+  auto state = decodeOverrideState(*bytes);
   if (!state) return {};
-  platform.log("overrideCompletion " + printed(*state));
+  platform.log("overrideCompletion " + encodeOverrideState(*state));
   return std::move(*state);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,6 +18,11 @@ using OverrideState = std::map<std::string, foundation::Date>;
 /// The two files of the container that hold the state. Both are written alike; timelines read the second one.
 inline constexpr std::string_view overrideFile = "interactive-widgets-state.json";
 inline constexpr std::string_view timelineOverrideFile = "interactive-widgets-state2.json";
+
+/// A JSON object from id to ISO 8601 date, without fractions of seconds.
+std::string encodeOverrideState(const OverrideState& state);
+/// Nothing where the text is anything else.
+std::optional<OverrideState> decodeOverrideState(std::string_view bytes);
 
 /// The state as timelines see it, read afresh; empty where the file is missing or does not decode. What was read goes
 /// to the debug log.

@@ -34,6 +34,7 @@ Command timelineCommand();
 Command placeholderCommand();
 Command snapshotCommand();
 Command renderCommand();
+Command sheetCommand();
 Command demoCommand();
 
 }  // namespace host

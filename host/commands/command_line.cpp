@@ -31,10 +31,12 @@ std::map<const CLI::App*, Run> declareCommands(CLI::App& app, const Surroundings
   app.name("mirune");
   app.set_version_flag("--version", "mirune " MIRUNE_VERSION);
   app.require_subcommand(0, 1);
+  // Of an option that is given twice the last one counts, so that scripts can add to what they were given.
+  app.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
   app.footer("Exit codes: 0 done, 1 failed, 2 usage. mirune COMMAND --help explains a command.");
   std::map<const CLI::App*, Run> runs;
-  for (const auto& command :
-       {galleryCommand(), timelineCommand(), placeholderCommand(), snapshotCommand(), renderCommand(), demoCommand()}) {
+  for (const auto& command : {galleryCommand(), timelineCommand(), placeholderCommand(), snapshotCommand(),
+                              renderCommand(), sheetCommand(), demoCommand()}) {
     auto* subcommand = app.add_subcommand(command.name, command.summary);
     runs[subcommand] = command.declare(*subcommand, surroundings);
   }

@@ -8,7 +8,7 @@ namespace host {
 
 namespace {
 
-constexpr std::size_t columns = 4;
+constexpr std::size_t columns = 5;
 using Row = std::array<std::string, columns>;
 
 std::string joined(const std::vector<std::string>& texts) {
@@ -27,7 +27,7 @@ std::size_t width(const std::string& text) {
 std::string galleryTable(const messages::Catalogue& catalogue) {
   std::vector<Row> rows;
   for (const auto& widget : catalogue.widgets) {
-    rows.push_back({widget.shortName, widget.kind, joined(widget.families), widget.description});
+    rows.push_back({widget.shortName, widget.kind, widget.displayName, joined(widget.families), widget.description});
   }
   constexpr std::size_t last = columns - 1;  // is not padded
   std::array<std::size_t, last> widths = {};

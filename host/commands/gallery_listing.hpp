@@ -6,7 +6,7 @@
 
 namespace host {
 
-/// One line a kind, in columns: short name, kind, families, description.
+/// One line a kind, in columns: short name, kind, display name, families, description.
 std::string galleryTable(const messages::Catalogue& catalogue);
 
 /// An array of records with the fields of messages::WidgetDescription.

@@ -3,10 +3,10 @@
 #include <filesystem>
 #include <vector>
 
-#include "foundation/file_manager.hpp"
 #include "foundation/iso8601.hpp"
 #include "host/commands/command.hpp"
 #include "host/commands/moment.hpp"
+#include "host/commands/picture_file.hpp"
 #include "host/commands/question.hpp"
 #include "host/commands/world_options.hpp"
 #include "host/shown_entry.hpp"
@@ -17,25 +17,6 @@ namespace {
 
 using foundation::JSON;
 using messages::PictureFormat;
-
-struct Ending {
-  const char* text;
-  PictureFormat format;
-};
-constexpr std::array endings = {Ending{".png", PictureFormat::png}, Ending{".txt", PictureFormat::text},
-                                Ending{".json", PictureFormat::json}};
-
-constexpr double leastScale = 0.1;
-constexpr double greatestScale = 10;
-
-std::expected<PictureFormat, messages::Failure> formatOf(const std::filesystem::path& file) {
-  auto ending = file.extension().string();
-  std::ranges::transform(ending, ending.begin(),
-                         [](char c) { return 'A' <= c && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-  const auto* found = std::ranges::find_if(endings, [&](const Ending& each) { return ending == each.text; });
-  if (found != endings.end()) return found->format;
-  return usage("-o: '" + file.string() + "' does not end in .png, .txt or .json");
-}
 
 std::expected<std::vector<foundation::Date>, messages::Failure> dates(const messages::Timeline& timeline) {
   std::vector<foundation::Date> result;
@@ -48,13 +29,17 @@ std::expected<std::vector<foundation::Date>, messages::Failure> dates(const mess
   return result;
 }
 
+constexpr std::array endings{PictureFormat::png, PictureFormat::svg, PictureFormat::pdf, PictureFormat::text,
+                             PictureFormat::json};
+
 struct Render {
   explicit Render(const Surroundings& surroundings) : extension(surroundings.extension), device(surroundings) {}
 
   Outcome run() const {
-    const auto format = formatOf(file);
+    const auto format = pictureFormat(file, endings);
     if (!format) return std::unexpected(format.error());
-    if (!(leastScale <= scale && scale <= greatestScale)) return usage("--scale: must be from 0.1 to 10");
+    const auto pixels = pictureScale(scale);
+    if (!pixels) return std::unexpected(pixels.error());
     auto world = device.world();
     if (!world) return std::unexpected(world.error());
     const auto drawn = moment("--at", at, world->now);
@@ -65,13 +50,11 @@ struct Render {
     if (!entry) return std::unexpected(entry.error());
     world->now = *drawn;
     const messages::DrawEntry request = {
-        .kind = kind, .family = family, .entry = std::move(*entry), .format = *format, .scale = scale};
+        .kind = kind, .family = family, .entry = std::move(*entry), .format = *format, .scale = *pixels};
     const auto picture = question<messages::Picture>(process, {.world = *world, .request = request});
     if (!picture) return std::unexpected(picture.error());
 
-    const auto written = foundation::writeFileAtomically(file, picture->bytes);
-    if (!written) return failed(file + ": " + written.error().message());
-    return "";
+    return savePicture(file, *picture);
   }
 
   std::expected<JSON, messages::Failure> entryShown(ExtensionProcess& process, const messages::World& world,
@@ -99,26 +82,28 @@ struct Render {
 }  // namespace
 
 Command renderCommand() {
-  return {.name = "render",
-          .summary = "Draw one widget into a file",
-          .declare = [](CLI::App& app, const Surroundings& surroundings) -> std::function<Outcome()> {
-            auto render = std::make_shared<Render>(surroundings);
-            app.add_option("KIND", render->kind, "Kind of widget: its identifier or short name (see mirune gallery)")
-                ->required()
-                ->option_text(" ");
-            app.add_option("FAMILY", render->family, "Size class: systemSmall, systemMedium, accessoryCircular, …")
-                ->required()
-                ->option_text(" ");
-            app.add_option("-o,--output", render->file,
-                           "The file; its ending chooses picture (.png), plain text (.txt) or placed elements (.json)")
-                ->required()
-                ->option_text("FILE");
-            app.add_option("--at", render->at, "Moment at which the widget is seen (else --now); picks the entry")
-                ->type_name("MOMENT");
-            app.add_option("--scale", render->scale, "Pixels per point, 0.1 to 10 (else 2)")->type_name("N");
-            render->device.addTo(app);
-            return [render] { return render->run(); };
-          }};
+  return {
+      .name = "render",
+      .summary = "Draw one widget into a file",
+      .declare = [](CLI::App& app, const Surroundings& surroundings) -> std::function<Outcome()> {
+        auto render = std::make_shared<Render>(surroundings);
+        app.add_option("KIND", render->kind, "Kind of widget: its identifier or short name (see mirune gallery)")
+            ->required()
+            ->option_text(" ");
+        app.add_option("FAMILY", render->family, "Size class: systemSmall, systemMedium, accessoryCircular, …")
+            ->required()
+            ->option_text(" ");
+        app.add_option(
+               "-o,--output", render->file,
+               "The file; its ending chooses picture (.png, .svg, .pdf), plain text (.txt) or placed elements (.json)")
+            ->required()
+            ->option_text("FILE");
+        app.add_option("--at", render->at, "Moment at which the widget is seen (else --now); picks the entry")
+            ->type_name("MOMENT");
+        app.add_option("--scale", render->scale, "Pixels per point, 0.1 to 10 (else 2)")->type_name("N");
+        render->device.addTo(app);
+        return [render] { return render->run(); };
+      }};
 }
 
 }  // namespace host

@@ -36,8 +36,8 @@ struct BoundIntent {
 
   BoundIntent() = default;
   template <AppIntent Intent>
-  BoundIntent(const Intent& intent)
-      : name(Intent::name), parameters(intent.parameters()) {}  // NOLINT(google-explicit-constructor)
+  // NOLINTNEXTLINE(google-explicit-constructor): an intent is bound where it stands
+  BoundIntent(const Intent& intent) : name(Intent::name), parameters(intent.parameters()) {}
 
   friend bool operator==(const BoundIntent&, const BoundIntent&) = default;
 };

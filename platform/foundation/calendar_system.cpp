@@ -86,8 +86,7 @@ struct CloseCalendar {
 using ForeignCalendar = std::unique_ptr<UCalendar, CloseCalendar>;
 
 ForeignCalendar openCalendar(CalendarIdentifier identifier) {
-  const auto* const named =
-      std::find_if(keywords.begin(), keywords.end(), [&](const Named& row) { return row.identifier == identifier; });
+  const auto* const named = std::ranges::find(keywords, identifier, &Named::identifier);
   const std::string locale = "en_US@calendar=" + std::string(named->name);
   UErrorCode status = U_ZERO_ERROR;
   ForeignCalendar calendar(ucal_open(u"GMT", -1, locale.c_str(), UCAL_DEFAULT, &status));

@@ -18,7 +18,7 @@ constexpr int fatalExitStatus = 70;
 void fatalError(std::string_view message) {
   std::fflush(stdout);
   std::string line(message);
-  std::replace(line.begin(), line.end(), '\n', ' ');
+  std::ranges::replace(line, '\n', ' ');
   line += '\n';
   std::string_view rest = line;
   while (!rest.empty()) {

@@ -21,7 +21,7 @@ std::string part(LocalePart getPart, const std::string& identifier) {
   UErrorCode status = U_ZERO_ERROR;
   const std::int32_t size = getPart(identifier.c_str(), buffer.data(), buffer.size(), &status);
   if (U_FAILURE(status) || status == U_STRING_NOT_TERMINATED_WARNING) return {};
-  return std::string(buffer.data(), static_cast<std::size_t>(size));
+  return {buffer.data(), static_cast<std::size_t>(size)};
 }
 
 struct CloseBundle {
@@ -59,7 +59,7 @@ std::optional<Parts> split(std::string_view identifier) {
   main = main.substr(0, main.find('.'));
   if (main == "C" || main == "POSIX") main = "en_US_POSIX";
   Parts parts = {.main = std::string(main)};
-  std::replace(parts.main.begin(), parts.main.end(), '-', '_');
+  std::ranges::replace(parts.main, '-', '_');
   if (modifier.contains('=')) {
     parts.keywords = "@" + std::string(modifier);
   } else if (const std::size_t region = parts.main.find('_'); modifier == "latin" || modifier == "cyrillic") {

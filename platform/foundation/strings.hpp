@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -13,5 +15,15 @@ std::string lowercased(std::string_view text);
 
 /// The text with its first "%lld" replaced by the number in ASCII digits; a text without one is returned as it is.
 std::string filled(std::string_view format, long long number);
+
+/// The text without what is neither letter, mark nor number (of any script) at its two ends; the inner text stays.
+std::string_view trimmedToAlphanumerics(std::string_view text);
+
+/// The number of characters that a reader sees: a letter with its accents is one.
+std::size_t characterCount(std::string_view text);
+
+/// The number that the text begins with in hexadecimal digits, after "0x" or "0X" if digits follow that. 0 where there
+/// is no digit, the greatest number where it is too large.
+std::uint64_t leadingHexadecimal(std::string_view text);
 
 }  // namespace foundation

@@ -21,7 +21,7 @@ std::string_view withoutLeadingBlanks(std::string_view text) {
 /// The digits that a text starts with behind its sign.
 std::string_view leadingDigits(std::string_view text) {
   if (text.starts_with('+') || text.starts_with('-')) text.remove_prefix(1);
-  return text.substr(0, static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isDigit) - text.begin()));
+  return text.substr(0, static_cast<std::size_t>(std::ranges::find_if_not(text, isDigit) - text.begin()));
 }
 
 struct ToInteger {

@@ -41,7 +41,7 @@ std::optional<UUID> UUID::parse(std::string_view text) {
     const auto digit = hexDigit(text[place]);
     if (!digit) return std::nullopt;
     std::uint8_t& byte = result.bytes_[digits++ / 2];
-    byte = static_cast<std::uint8_t>(byte << 4 | *digit);
+    byte = static_cast<std::uint8_t>(static_cast<unsigned>(byte) << 4U | static_cast<unsigned>(*digit));
   }
   return result;
 }

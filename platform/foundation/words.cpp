@@ -67,7 +67,7 @@ Words Words::load(const std::filesystem::path& folder, const Locale& locale) {
 }
 
 std::string Words::localized(std::string_view key) const {
-  const std::string english(key);
+  std::string english(key);
   if (!catalogue_ || english.empty()) return english;
   const char* const translation = catalogue_->messages().get(0, nullptr, english.c_str());
   const bool isTranslated = translation != nullptr && *translation != '\0';

@@ -98,7 +98,7 @@ bool nestsTooDeep(std::string_view header) {
 
 }  // namespace
 
-std::expected<void, ChannelError> Channel::send(const JSON& header, std::string_view payload, Deadline deadline) {
+std::expected<void, ChannelError> Channel::send(const JSON& header, std::string_view payload, Deadline deadline) const {
   const std::string text = header.dump(-1, ' ', false, JSON::error_handler_t::replace);
   if (text.size() > largestHeader || payload.size() > largestPayload) return std::unexpected(ChannelError::malformed);
   std::string start;
@@ -110,7 +110,7 @@ std::expected<void, ChannelError> Channel::send(const JSON& header, std::string_
   return sendAll(descriptor_, payload, deadline);
 }
 
-std::expected<Frame, ChannelError> Channel::receive(Deadline deadline) {
+std::expected<Frame, ChannelError> Channel::receive(Deadline deadline) const {
   std::string lengths;
   if (const Result read = receiveAll(descriptor_, lengths, lengthsSize, deadline); !read) {
     return std::unexpected(read.error());

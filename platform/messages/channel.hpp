@@ -32,9 +32,9 @@ class Channel {
 
   /// Writes a whole frame; a peer that is gone is an error, never a signal.
   std::expected<void, ChannelError> send(const foundation::JSON& header, std::string_view payload = {},
-                                         Deadline deadline = {});
+                                         Deadline deadline = {}) const;
   /// Waits for a whole frame, until the deadline if there is one.
-  std::expected<Frame, ChannelError> receive(Deadline deadline = {});
+  std::expected<Frame, ChannelError> receive(Deadline deadline = {}) const;
 
  private:
   int descriptor_;

@@ -15,6 +15,9 @@ constexpr const char* failure = "failure";
 constexpr const char* catalogue = "catalogue";
 constexpr const char* timeline = "timeline";
 constexpr const char* picture = "picture";
+constexpr const char* done = "done";
+constexpr const char* progress = "progress";
+constexpr const char* diagnosis = "diagnosis";
 
 JSON widgetJSON(const WidgetDescription& widget) {
   return {{"kind", widget.kind},
@@ -32,6 +35,22 @@ WidgetDescription widgetFrom(const JSON& json) {
           .families = field<std::vector<std::string>>(json, "families")};
 }
 
+JSON fileJSON(const FileDiagnosis& file) {
+  return {{"file", file.file},
+          {"modified", JSON(file.modified)},
+          {"size", file.size},
+          {"problems", JSON(file.problems)},
+          {"consequence", file.consequence}};
+}
+
+FileDiagnosis fileFrom(const JSON& json) {
+  return {.file = field<std::string>(json, "file"),
+          .modified = json.at("modified").get<std::optional<foundation::Date>>(),
+          .size = json.at("size").get<std::int64_t>(),
+          .problems = field<std::vector<std::string>>(json, "problems"),
+          .consequence = field<std::string>(json, "consequence")};
+}
+
 struct ToJSON {
   JSON operator()(const Failure& reply) const {
     return {{"reply", failure}, {"reason", textOf(reply.reason, reasonTexts)}, {"message", reply.message}};
@@ -45,6 +64,15 @@ struct ToJSON {
     return {{"reply", timeline}, {"kind", reply.kind}, {"policy", reply.policy}, {"entries", JSON(reply.entries)}};
   }
   JSON operator()(const Picture&) const { return {{"reply", picture}}; }
+  JSON operator()(const Done&) const { return {{"reply", done}}; }
+  JSON operator()(const Progress& reply) const {
+    return {{"reply", progress}, {"done", reply.done}, {"total", reply.total}};
+  }
+  JSON operator()(const Diagnosis& reply) const {
+    JSON files = JSON::array();
+    for (const FileDiagnosis& file : reply.files) files.push_back(fileJSON(file));
+    return {{"reply", diagnosis}, {"hasContainer", reply.hasContainer}, {"files", std::move(files)}};
+  }
 };
 
 }  // namespace
@@ -67,6 +95,14 @@ void from_json(const JSON& json, Reply& reply) {
                      .entries = field<std::vector<JSON>>(json, "entries")};
   } else if (name == picture) {
     reply = Picture{};
+  } else if (name == done) {
+    reply = Done{};
+  } else if (name == progress) {
+    reply = Progress{.done = integerField(json, "done"), .total = integerField(json, "total")};
+  } else if (name == diagnosis) {
+    Diagnosis read{.hasContainer = json.at("hasContainer").get<bool>()};
+    for (const JSON& file : field<std::vector<JSON>>(json, "files")) read.files.push_back(fileFrom(file));
+    reply = std::move(read);
   } else {
     failField(json, "reply", "none of the known ones");
   }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -37,6 +39,34 @@ struct Picture {
   friend bool operator==(const Picture&, const Picture&) = default;
 };
 
+/// An action has run.
+struct Done {
+  friend bool operator==(const Done&, const Done&) = default;
+};
+
+/// A long answer is on its way; not an answer itself.
+struct Progress {
+  int done = 0;
+  int total = 0;
+  friend bool operator==(const Progress&, const Progress&) = default;
+};
+
+/// What is to be said of one shared file.
+struct FileDiagnosis {
+  std::string file = {};                                    ///< below the container
+  std::optional<foundation::Date> modified = std::nullopt;  ///< absent: the file is not there
+  std::int64_t size = 0;                                    ///< bytes
+  std::vector<std::string> problems = {};                   ///< each a line; empty where all is well
+  std::string consequence = {};                             ///< what widgets show because of the problems
+  friend bool operator==(const FileDiagnosis&, const FileDiagnosis&) = default;
+};
+
+struct Diagnosis {
+  bool hasContainer = false;
+  std::vector<FileDiagnosis> files = {};
+  friend bool operator==(const Diagnosis&, const Diagnosis&) = default;
+};
+
 /// Why a request was not answered.
 struct Failure {
   /// usage: the request asks for something that does not exist; the message lists what does.
@@ -46,7 +76,7 @@ struct Failure {
   friend bool operator==(const Failure&, const Failure&) = default;
 };
 
-using Reply = std::variant<Failure, Catalogue, Timeline, Picture>;
+using Reply = std::variant<Failure, Catalogue, Timeline, Picture, Done, Progress, Diagnosis>;
 
 /// The header of a reply: {"reply": NAME, …its fields…}. A Picture's bytes are left out.
 void to_json(foundation::JSON& json, const Reply& reply);

@@ -12,12 +12,18 @@ constexpr Texts<ProviderOperation, 3> operationTexts = {{{"placeholder", Provide
                                                          {"snapshot", ProviderOperation::snapshot},
                                                          {"timeline", ProviderOperation::timeline}}};
 
-constexpr Texts<PictureFormat, 3> formatTexts = {
-    {{"png", PictureFormat::png}, {"text", PictureFormat::text}, {"json", PictureFormat::json}}};
+constexpr Texts<PictureFormat, 5> formatTexts = {{{"png", PictureFormat::png},
+                                                  {"svg", PictureFormat::svg},
+                                                  {"pdf", PictureFormat::pdf},
+                                                  {"text", PictureFormat::text},
+                                                  {"json", PictureFormat::json}}};
 
 constexpr const char* describeCatalogue = "describeCatalogue";
 constexpr const char* askProvider = "askProvider";
 constexpr const char* drawEntry = "drawEntry";
+constexpr const char* drawSheet = "drawSheet";
+constexpr const char* performIntent = "performIntent";
+constexpr const char* diagnoseContainer = "diagnoseContainer";
 
 struct ToJSON {
   JSON operator()(const DescribeCatalogue&) const { return {{"request", describeCatalogue}}; }
@@ -32,6 +38,13 @@ struct ToJSON {
             {"format", textOf(request.format, formatTexts)},
             {"scale", request.scale}};
   }
+  JSON operator()(const DrawSheet& request) const {
+    return {{"request", drawSheet}, {"format", textOf(request.format, formatTexts)}, {"scale", request.scale}};
+  }
+  JSON operator()(const PerformIntent& request) const {
+    return {{"request", performIntent}, {"intent", request.intent}, {"parameters", request.parameters}};
+  }
+  JSON operator()(const DiagnoseContainer&) const { return {{"request", diagnoseContainer}}; }
 };
 
 Request requestFrom(const JSON& json) {
@@ -48,6 +61,13 @@ Request requestFrom(const JSON& json) {
                      .format = enumField(json, "format", formatTexts),
                      .scale = field<double>(json, "scale")};
   }
+  if (name == drawSheet) {
+    return DrawSheet{.format = enumField(json, "format", formatTexts), .scale = field<double>(json, "scale")};
+  }
+  if (name == performIntent) {
+    return PerformIntent{.intent = field<std::string>(json, "intent"), .parameters = json.at("parameters")};
+  }
+  if (name == diagnoseContainer) return DiagnoseContainer{};
   failField(json, "request", "none of the known ones");
 }
 

@@ -27,6 +27,8 @@ struct AskProvider {
 /// How a picture is wanted.
 enum class PictureFormat {
   png,
+  svg,
+  pdf,
   text,  ///< the meaning as plain text, one line an element
   json,  ///< the placed tree and its meaning
 };
@@ -41,7 +43,27 @@ struct DrawEntry {
   friend bool operator==(const DrawEntry&, const DrawEntry&) = default;
 };
 
-using Request = std::variant<DescribeCatalogue, AskProvider, DrawEntry>;
+/// Every kind in every family that it offers, each at its entry for the world's current moment, on one picture (PNG,
+/// SVG or PDF). Answered by a Picture, with a Progress before each widget.
+struct DrawSheet {
+  PictureFormat format = PictureFormat::png;
+  double scale = 2;  ///< pixels per point
+  friend bool operator==(const DrawSheet&, const DrawSheet&) = default;
+};
+
+/// Runs an action as a tap on a control does. Answered by a Done.
+struct PerformIntent {
+  std::string intent = {};           ///< the action's name, as a control's meaning carries it
+  foundation::JSON parameters = {};  ///< an object: each parameter's value by its title
+  friend bool operator==(const PerformIntent&, const PerformIntent&) = default;
+};
+
+/// In what state are the files that the planner shares? Answered by a Diagnosis.
+struct DiagnoseContainer {
+  friend bool operator==(const DiagnoseContainer&, const DiagnoseContainer&) = default;
+};
+
+using Request = std::variant<DescribeCatalogue, AskProvider, DrawEntry, DrawSheet, PerformIntent, DiagnoseContainer>;
 
 /// A request and the world in which it is answered. On the wire: {"request": NAME, …its fields…, "world": {…}}.
 struct Envelope {

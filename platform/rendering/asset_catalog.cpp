@@ -53,8 +53,10 @@ class AssetCatalog::Bitmap final : public Asset {
       cairo_translate(cairo, frame.origin.x, frame.origin.y);
       cairo_scale(cairo, frame.size.width / own.width / density_, frame.size.height / own.height / density_);
       cairo_set_source_surface(cairo, surface_.get(), 0, 0);
-      // Stretched pixels at the edge must not fade into the nothing around the picture.
-      cairo_pattern_set_extend(cairo_get_source(cairo), CAIRO_EXTEND_PAD);
+      // Stretched pixels at the edge must not fade into the nothing around the picture. Files of outlines keep the
+      // picture as it is and leave the stretching to the viewer.
+      const bool isPixels = cairo_surface_get_type(cairo_get_target(cairo)) == CAIRO_SURFACE_TYPE_IMAGE;
+      if (isPixels) cairo_pattern_set_extend(cairo_get_source(cairo), CAIRO_EXTEND_PAD);
       cairo_paint_with_alpha(cairo, opacity);
       cairo_restore(cairo);
     };

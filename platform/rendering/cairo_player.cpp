@@ -29,6 +29,10 @@ Rect inset(const Rect& frame, double by) {
       .size = {.width = std::max(0.0, frame.size.width - 2 * by), .height = std::max(0.0, frame.size.height - 2 * by)}};
 }
 
+double radians(double degrees) {
+  return degrees * std::numbers::pi / 180;
+}
+
 void addShape(cairo_t* cairo, const Shape& shape, const Rect& frame, double insetBy) {
   cairo_new_path(cairo);
   std::visit(Overload{
@@ -43,6 +47,11 @@ void addShape(cairo_t* cairo, const Shape& shape, const Rect& frame, double inse
                    cairo_arc(cairo, frame.origin.x + frame.size.width / 2, frame.origin.y + frame.size.height / 2,
                              radius, 0, 2 * std::numbers::pi);
                    cairo_close_path(cairo);
+                 },
+                 [&](const Arc& arc) {
+                   const double radius = std::min(frame.size.width, frame.size.height) / 2;
+                   cairo_arc(cairo, frame.origin.x + frame.size.width / 2, frame.origin.y + frame.size.height / 2,
+                             radius, radians(arc.startAngle), radians(arc.endAngle));
                  },
              },
              shape);

@@ -59,6 +59,11 @@ JSON jsonOf(const DrawShape& draw) {
                    json["cornerRadius"] = jsonOfLength(shape.cornerRadius);
                  },
                  [&](const Circle&) { json["shape"] = "circle"; },
+                 [&](const Arc& arc) {
+                   json["shape"] = "arc";
+                   json["startAngle"] = jsonOfLength(arc.startAngle);
+                   json["endAngle"] = jsonOfLength(arc.endAngle);
+                 },
              },
              draw.shape);
   json["frame"] = jsonOf(draw.frame);
@@ -76,6 +81,18 @@ JSON jsonOf(const appintents::ParameterValue& value) {
                         },
                     },
                     value);
+}
+
+void describe(JSON& entry, const ToggleMeaning& toggle) {
+  entry["role"] = "checkbox";
+  entry["checked"] = toggle.isOn;
+  for (const auto& parameter : toggle.intent.parameters) entry[parameter.title] = jsonOf(parameter.value);
+}
+
+void describe(JSON& entry, const GaugeMeaning& gauge) {
+  entry["role"] = "gauge";
+  entry["value"] = jsonOfLength(gauge.value);
+  entry["total"] = jsonOfLength(gauge.total);
 }
 
 }  // namespace
@@ -98,12 +115,8 @@ JSON jsonOf(const DisplayList& list) {
 JSON jsonOf(const Meaning& meaning) {
   JSON json = JSON::array();
   for (const MeaningItem& item : meaning) {
-    const bool isCheckbox = item.role == MeaningItem::Role::checkbox;
-    JSON entry{{"role", isCheckbox ? "checkbox" : "text"}, {"label", item.label}};
-    if (isCheckbox) {
-      entry["checked"] = item.isChecked;
-      for (const auto& parameter : item.intent.parameters) entry[parameter.title] = jsonOf(parameter.value);
-    }
+    JSON entry{{"role", "text"}, {"label", item.label}};
+    if (item.control) std::visit([&](const auto& control) { describe(entry, control); }, *item.control);
     entry["frame"] = jsonOf(item.frame);
     json.push_back(std::move(entry));
   }

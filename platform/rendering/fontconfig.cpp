@@ -3,6 +3,7 @@
 namespace rendering {
 namespace {
 
+// Emoji are pictures of one size: the last rule has them drawn at the size that is asked for.
 constexpr auto configuration = R"(<?xml version="1.0"?>
 <fontconfig>
   <dir>/usr/share/fonts</dir>
@@ -14,6 +15,20 @@ constexpr auto configuration = R"(<?xml version="1.0"?>
     <family>emoji</family>
     <prefer><family>Noto Color Emoji</family></prefer>
   </alias>
+  <match target="font">
+    <test name="outline"><bool>false</bool></test>
+    <edit name="matrix" mode="assign">
+      <times>
+        <name>matrix</name>
+        <matrix>
+          <divide><name target="pattern">pixelsize</name><name target="font">pixelsize</name></divide>
+          <double>0</double>
+          <double>0</double>
+          <divide><name target="pattern">pixelsize</name><name target="font">pixelsize</name></divide>
+        </matrix>
+      </times>
+    </edit>
+  </match>
 </fontconfig>
 )";
 

@@ -12,7 +12,6 @@ namespace {
 
 using swiftui::Font;
 using swiftui::FontDesign;
-using swiftui::FontWeight;
 
 /// Stands in for the platform's system font: the closest free one in width, weight by weight.
 constexpr auto systemFamily = "Inter";

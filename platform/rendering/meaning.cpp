@@ -1,5 +1,8 @@
 #include "rendering/meaning.hpp"
 
+#include <algorithm>
+#include <cmath>
+
 namespace rendering {
 namespace {
 
@@ -18,22 +21,22 @@ void appendLabel(const PlacedElement& placed, std::string& label) {
   for (const PlacedElement& child : placed.children) appendLabel(child, label);
 }
 
+std::string wholeNumber(double value) {
+  return std::to_string(std::llround(value));
+}
+
 }  // namespace
 
 void collectMeaning(const PlacedElement& placed, Meaning& meaning) {
-  if (const auto* toggle = std::get_if<ToggleElement>(&placed.element->value)) {
-    MeaningItem item{.role = MeaningItem::Role::checkbox,
-                     .label = {},
-                     .frame = placed.frame,
-                     .isChecked = toggle->meaning.isOn,
-                     .intent = toggle->meaning.intent};
+  if (const auto* element = std::get_if<ControlElement>(&placed.element->value)) {
+    MeaningItem item{.label = {}, .frame = placed.frame, .control = element->control};
     appendLabel(placed, item.label);
     meaning.push_back(std::move(item));
     return;
   }
   if (const auto* text = std::get_if<TextElement>(&placed.element->value)) {
     if (isSaid(*text)) {
-      meaning.push_back({.role = MeaningItem::Role::text, .label = text->content, .frame = placed.frame});
+      meaning.push_back({.label = text->content, .frame = placed.frame});
     }
     return;
   }
@@ -41,14 +44,18 @@ void collectMeaning(const PlacedElement& placed, Meaning& meaning) {
 }
 
 std::string plainText(const Meaning& meaning) {
+  const auto onOneLine = [](std::string label) {
+    std::ranges::replace_if(label, [](char c) { return c == '\n' || c == '\r'; }, ' ');
+    return label;
+  };
   std::string lines;
   for (const MeaningItem& item : meaning) {
-    if (item.role == MeaningItem::Role::checkbox) lines += item.isChecked ? "[x] " : "[ ] ";
-    std::string label = item.label;
-    for (char& byte : label) {
-      if (byte == '\n' || byte == '\r') byte = ' ';
-    }
-    lines += label + "\n";
+    const auto* toggle = item.control ? std::get_if<ToggleMeaning>(&*item.control) : nullptr;
+    const auto* gauge = item.control ? std::get_if<GaugeMeaning>(&*item.control) : nullptr;
+    if (toggle != nullptr) lines += toggle->isOn ? "[x] " : "[ ] ";
+    lines += onOneLine(item.label);
+    if (gauge != nullptr) lines += " (" + wholeNumber(gauge->value) + " of " + wholeNumber(gauge->total) + ")";
+    lines += "\n";
   }
   return lines;
 }

@@ -1,23 +1,19 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
-#include "appintents/app_intent.hpp"
 #include "foundation/json.hpp"
 #include "swiftui/layout.hpp"
 
 namespace rendering {
 
-/// One thing that a reader meets: what it is, what it says, where it is.
+/// One thing that a reader meets: what it says, where it is, and what it is where it is more than a text.
 struct MeaningItem {
-  enum class Role { text, checkbox };
-
-  Role role = Role::text;
   std::string label = {};
   swiftui::Rect frame = {};
-  bool isChecked = false;               ///< of a check box
-  appintents::BoundIntent intent = {};  ///< what a tap on a check box performs
+  std::optional<swiftui::Control> control = std::nullopt;
 };
 
 /// What a widget says, in reading order. Texts are whole even where the picture cuts them; what cannot be seen is not
@@ -26,7 +22,8 @@ using Meaning = std::vector<MeaningItem>;
 
 void collectMeaning(const swiftui::PlacedElement& placed, Meaning& meaning);
 
-/// One line for each item: the text, or "[ ] label", "[x] label"; line breaks within one become blanks.
+/// One line for each item: the text, "[ ] label", "[x] label", or "label (2 of 5)". Line breaks within a label become
+/// blanks.
 std::string plainText(const Meaning& meaning);
 
 }  // namespace rendering

@@ -1,8 +1,12 @@
 #include "rendering/renderer.hpp"
 
+#include <cairo-pdf.h>
+#include <cairo-svg.h>
+
 #include <cmath>
 
 #include "foundation/fatal_error.hpp"
+#include "foundation/iso8601.hpp"
 #include "rendering/asset_catalog.hpp"
 #include "rendering/cairo_handles.hpp"
 #include "rendering/cairo_player.hpp"
@@ -12,13 +16,43 @@
 namespace rendering {
 namespace {
 
-/// Cuts what is painted to the widget's outline.
-void cutToOutline(cairo_t* cairo, const Scene& scene) {
-  cairo_new_path(cairo);
-  addRoundedRectangle(cairo, {.origin = {}, .size = scene.size}, scene.cornerRadius);
-  cairo_set_operator(cairo, CAIRO_OPERATOR_DEST_IN);
-  cairo_set_source_rgb(cairo, 0, 0, 0);
-  cairo_fill(cairo);
+/// Appends what a surface writes to a text.
+cairo_status_t append(void* bytes, const unsigned char* data, unsigned int length) {
+  static_cast<std::string*>(bytes)->append(reinterpret_cast<const char*>(data), length);
+  return CAIRO_STATUS_SUCCESS;
+}
+
+void check(cairo_status_t status) {
+  if (status == CAIRO_STATUS_SUCCESS) return;
+  foundation::fatalError(std::string("drawing failed: ") + cairo_status_to_string(status));
+}
+
+/// Paints a scene where the origin is, cut to the widget's outline.
+void paint(const Scene& scene, cairo_t* cairo, const CairoPlayer& player) {
+  if (scene.cornerRadius > 0) {
+    cairo_new_path(cairo);
+    addRoundedRectangle(cairo, {.origin = {}, .size = scene.size}, scene.cornerRadius);
+    cairo_clip(cairo);
+  }
+  player.play(scene.drawn);
+}
+
+void paint(const Composition& composition, cairo_surface_t* surface, double scale, const TextEngine& text,
+           const AssetCatalog& assets) {
+  const CairoHandle cairo(cairo_create(surface));
+  cairo_scale(cairo.get(), scale, scale);
+  if (const uikit::RGBA& ground = composition.ground; ground.alpha > 0) {
+    cairo_set_source_rgba(cairo.get(), ground.red, ground.green, ground.blue, ground.alpha);
+    cairo_paint(cairo.get());
+  }
+  const CairoPlayer player(cairo.get(), scale, text, assets);
+  for (const Tile& tile : composition.tiles) {
+    cairo_save(cairo.get());
+    cairo_translate(cairo.get(), tile.origin.x, tile.origin.y);
+    paint(tile.scene, cairo.get(), player);
+    cairo_restore(cairo.get());
+  }
+  check(cairo_status(cairo.get()));
 }
 
 }  // namespace
@@ -40,18 +74,39 @@ swiftui::Size Renderer::imageSize(const swiftui::ImageElement& image) const {
   return assets_->size({.name = image.name, .isSymbol = image.isSymbol, .colorScheme = image.paint.colorScheme});
 }
 
-std::string Renderer::png(const Scene& scene, double scale) const {
+std::string Renderer::png(const Composition& composition, double scale) const {
   const auto pixels = [&](double points) { return static_cast<int>(std::lround(points * scale)); };
   const SurfaceHandle surface(
-      cairo_image_surface_create(CAIRO_FORMAT_ARGB32, pixels(scene.size.width), pixels(scene.size.height)));
-  const CairoHandle cairo(cairo_create(surface.get()));
-  cairo_scale(cairo.get(), scale, scale);
-  CairoPlayer(cairo.get(), scale, *text_, *assets_).play(scene.drawn);
-  if (scene.cornerRadius > 0) cutToOutline(cairo.get(), scene);
-  if (cairo_status(cairo.get()) != CAIRO_STATUS_SUCCESS) {
-    foundation::fatalError(std::string("drawing failed: ") + cairo_status_to_string(cairo_status(cairo.get())));
-  }
+      cairo_image_surface_create(CAIRO_FORMAT_ARGB32, pixels(composition.size.width), pixels(composition.size.height)));
+  paint(composition, surface.get(), scale, *text_, *assets_);
   return encodePNG(surface.get());
+}
+
+std::string Renderer::svg(const Composition& composition) const {
+  std::string bytes;
+  {
+    const SurfaceHandle surface(
+        cairo_svg_surface_create_for_stream(append, &bytes, composition.size.width, composition.size.height));
+    cairo_svg_surface_set_document_unit(surface.get(), CAIRO_SVG_UNIT_PX);
+    paint(composition, surface.get(), 1, *text_, *assets_);
+    cairo_surface_finish(surface.get());
+    check(cairo_surface_status(surface.get()));
+  }
+  return bytes;
+}
+
+std::string Renderer::pdf(const Composition& composition, foundation::Date created) const {
+  std::string bytes;
+  {
+    const SurfaceHandle surface(
+        cairo_pdf_surface_create_for_stream(append, &bytes, composition.size.width, composition.size.height));
+    const std::string moment = foundation::formatISO8601(created);
+    cairo_pdf_surface_set_metadata(surface.get(), CAIRO_PDF_METADATA_CREATE_DATE, moment.c_str());
+    paint(composition, surface.get(), 1, *text_, *assets_);
+    cairo_surface_finish(surface.get());
+    check(cairo_surface_status(surface.get()));
+  }
+  return bytes;
 }
 
 }  // namespace rendering

@@ -4,7 +4,8 @@
 #include <memory>
 #include <string>
 
-#include "rendering/scene.hpp"
+#include "foundation/date.hpp"
+#include "rendering/composition.hpp"
 
 namespace rendering {
 
@@ -24,8 +25,14 @@ class Renderer final : public swiftui::LeafMeasurer {
   swiftui::FontMetrics fontMetrics(const swiftui::Font& font) const override;
   swiftui::Size imageSize(const swiftui::ImageElement& image) const override;
 
-  /// The scene as a PNG file with that many pixels to the point.
-  std::string png(const Scene& scene, double scale) const;
+  /// A PNG file with that many pixels to the point.
+  std::string png(const Composition& composition, double scale) const;
+  /// An SVG file, a unit to the point. Texts are outlines: they look the same where the fonts are missing.
+  std::string svg(const Composition& composition) const;
+  /// A PDF file, a unit to the point. Texts are texts in fonts that the file brings along, but for the rounded design,
+  /// which is drawn. `created` is written into
+  /// it, so that the same request gives the same bytes.
+  std::string pdf(const Composition& composition, foundation::Date created) const;
 
  private:
   std::unique_ptr<TextEngine> text_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -35,11 +36,20 @@ struct TextStyle {
   friend bool operator==(const TextStyle&, const TextStyle&) = default;
 };
 
-/// A control as a reader meets it: the texts below it are its label.
+// What a reader meets as one thing; the texts below it are its label.
+
 struct ToggleMeaning {
   bool isOn = false;
   appintents::BoundIntent intent = {};
 };
+/// A value in a range from 0.
+struct GaugeMeaning {
+  double value = 0;
+  double total = 1;
+};
+using Control = std::variant<ToggleMeaning, GaugeMeaning>;
+
+struct Element;
 
 // What remains of a view when its environment is known: no components, no modifiers of the environment, every leaf with
 // the paint and style that it is drawn with.
@@ -98,14 +108,18 @@ struct LayerElement {
   bool isBehind = true;
   Alignment alignment = {};
 };
-struct ToggleElement {
-  ToggleMeaning meaning = {};
+struct ControlElement {
+  Control control = {};
+};
+/// Its content is resolved when its size is known.
+struct GeometryReaderElement {
+  std::function<Element(Size)> content = nullptr;
 };
 
 struct Element {
   std::variant<TextElement, ImageElement, ShapeElement, SpacerElement, StackElement, ZStackElement, PaddingElement,
                FixedFrameElement, FlexibleFrameElement, FixedSizeElement, LayoutPriorityElement, OffsetElement,
-               LayerElement, ToggleElement>
+               LayerElement, ControlElement, GeometryReaderElement>
       value = ZStackElement{};
   std::vector<Element> children = {};
 };

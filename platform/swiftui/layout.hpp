@@ -19,6 +19,7 @@ struct PlacedElement {
   std::shared_ptr<const TextLayout> text = nullptr;  ///< for a text: how it is broken
   double firstBaseline = 0;                          ///< for a text: from the frame's top
   std::vector<PlacedElement> children = {};          ///< in painting order
+  std::shared_ptr<const Element> content = nullptr;  ///< of a geometry reader: what its child refers to
 };
 
 struct LayoutOptions {

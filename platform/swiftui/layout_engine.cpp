@@ -41,7 +41,9 @@ LayoutResult layoutImage(const LayoutEngine& engine, const ImageElement& image, 
 
 LayoutResult layoutShape(const ShapeElement& shape, ProposedSize proposal) {
   Size size{.width = proposal.width.value_or(idealShapeLength), .height = proposal.height.value_or(idealShapeLength)};
-  if (std::holds_alternative<Circle>(shape.shape)) size.width = size.height = std::min(size.width, size.height);
+  if (std::holds_alternative<Circle>(shape.shape) || std::holds_alternative<Arc>(shape.shape)) {
+    size.width = size.height = std::min(size.width, size.height);
+  }
   return {.size = size};
 }
 
@@ -110,7 +112,10 @@ LayoutResult answer(LayoutEngine& engine, const Element& element, ProposedSize p
           [&](const LayoutPriorityElement&) { return transparent(engine, element, proposal); },
           [&](const OffsetElement& offset) { return transparent(engine, element, proposal, offset.offset); },
           [&](const LayerElement& layer) { return layoutLayer(engine, element, layer, proposal); },
-          [&](const ToggleElement&) { return transparent(engine, element, proposal); },
+          [&](const ControlElement&) { return transparent(engine, element, proposal); },
+          [&](const GeometryReaderElement&) {
+            return LayoutResult{.size = {.width = proposal.width.value_or(0), .height = proposal.height.value_or(0)}};
+          },
       },
       element.value);
 }
@@ -202,6 +207,16 @@ PlacedElement LayoutEngine::place(const Element& element, Point origin, Proposed
     }
     placed.children.push_back(
         place(child, {.x = origin.x + x, .y = origin.y + placement.origin.y}, placement.proposal, direction));
+  }
+  if (const auto* reader = std::get_if<GeometryReaderElement>(&element.value)) {
+    const Size size = result.size;
+    placed.content = std::make_shared<const Element>(reader->content(size));
+    double x = 0;
+    if (direction == LayoutDirection::rightToLeft) {
+      x = size.width - measure(*placed.content, ProposedSize::of(size)).size.width;
+    }
+    placed.children.push_back(
+        place(*placed.content, {.x = origin.x + x, .y = origin.y}, ProposedSize::of(size), direction));
   }
   if (paintsSecondChildFirst(element)) std::swap(placed.children[0], placed.children[1]);
   return placed;

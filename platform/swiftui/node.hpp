@@ -88,11 +88,19 @@ struct ToggleNode {
   ToggleOptions options = {};
   View label;
 };
+struct GaugeNode {
+  GaugeOptions options = {};
+  View label;
+  View currentValueLabel;
+};
+struct GeometryReaderNode {
+  std::function<View(Size)> content = nullptr;
+};
 
 struct Node {
   std::variant<EmptyNode, GroupNode, ComponentNode, TextNode, ImageNode, ShapeNode, SpacerNode, StackNode, ZStackNode,
                PaddingNode, FixedFrameNode, FlexibleFrameNode, FixedSizeNode, LayoutPriorityNode, OffsetNode, LayerNode,
-               ContainerBackgroundNode, EnvironmentNode, ToggleNode>
+               ContainerBackgroundNode, EnvironmentNode, ToggleNode, GaugeNode, GeometryReaderNode>
       value = EmptyNode{};
 };
 

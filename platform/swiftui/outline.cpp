@@ -13,6 +13,7 @@ std::string nameOf(const Shape& shape) {
                         [](const Rectangle&) { return "rectangle"; },
                         [](const RoundedRectangle&) { return "roundedRectangle"; },
                         [](const Circle&) { return "circle"; },
+                        [](const Arc&) { return "arc"; },
                     },
                     shape);
 }
@@ -33,7 +34,10 @@ std::string nameOf(const PlacedElement& placed) {
           [](const LayoutPriorityElement&) { return std::string("layoutPriority"); },
           [](const OffsetElement&) { return std::string("offset"); },
           [](const LayerElement& layer) { return std::string(layer.isBehind ? "background" : "overlay"); },
-          [](const ToggleElement&) { return std::string("toggle"); },
+          [](const ControlElement& control) {
+            return std::string(std::holds_alternative<ToggleMeaning>(control.control) ? "toggle" : "gauge");
+          },
+          [](const GeometryReaderElement&) { return std::string("geometryReader"); },
       },
       placed.element->value);
 }

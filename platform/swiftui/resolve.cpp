@@ -1,4 +1,5 @@
 #include "swiftui/element.hpp"
+#include "swiftui/gauge_look.hpp"
 #include "swiftui/node.hpp"
 #include "swiftui/overload.hpp"
 
@@ -109,8 +110,20 @@ class Resolver {
     const View look = environment.toggleStyle
                           ? environment.toggleStyle->makeBody({.isOn = node.options.isOn, .label = node.label})
                           : node.label;
-    out.push_back({.value = ToggleElement{.meaning = {.isOn = node.options.isOn, .intent = node.options.intent}},
-                   .children = {single(look, environment)}});
+    out.push_back(
+        {.value = ControlElement{.control = ToggleMeaning{.isOn = node.options.isOn, .intent = node.options.intent}},
+         .children = {single(look, environment)}});
+  }
+  void append(const GaugeNode& node, const EnvironmentValues& environment, Elements& out) {
+    const View look = accessoryCircularGauge(node.options, node.label, node.currentValueLabel);
+    out.push_back(
+        {.value = ControlElement{.control = GaugeMeaning{.value = node.options.value, .total = node.options.total}},
+         .children = {single(look, environment)}});
+  }
+  void append(const GeometryReaderNode& node, const EnvironmentValues& environment, Elements& out) {
+    out.push_back({.value = GeometryReaderElement{.content = [content = node.content, environment](Size size) {
+                     return Resolver().single(content(size), environment);
+                   }}});
   }
 
   Elements all(const std::vector<View>& views, const EnvironmentValues& environment) {

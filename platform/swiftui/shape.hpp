@@ -17,7 +17,15 @@ struct Circle {
   friend bool operator==(const Circle&, const Circle&) = default;
 };
 
-using Shape = std::variant<Rectangle, RoundedRectangle, Circle>;
+/// A part of a circle's edge, as large as fits, in the middle of its frame. Angles in degrees, clockwise from three
+/// o'clock; it is drawn with a pen, never filled.
+struct Arc {
+  double startAngle = 0;
+  double endAngle = 0;
+  friend bool operator==(const Arc&, const Arc&) = default;
+};
+
+using Shape = std::variant<Rectangle, RoundedRectangle, Circle, Arc>;
 
 enum class LineCap { butt, round };
 enum class LineJoin { miter, round };

@@ -80,7 +80,8 @@ void appendEdges(const Element& element, Side side, Axis axis, const LayoutEngin
                  [&](const LayoutPriorityElement&) { childUnless(false); },
                  [&](const OffsetElement&) { childUnless(false); },
                  [&](const LayerElement&) { childUnless(false); },
-                 [&](const ToggleElement&) { childUnless(false); },
+                 [&](const ControlElement&) { childUnless(false); },
+                 [&](const GeometryReaderElement&) { out.emplace_back(OtherEdge{}); },
              },
              element.value);
 }

@@ -34,7 +34,7 @@ double priorityOf(const Element& element) {
                         [&](const FixedSizeElement&) { return priorityOf(element.children.front()); },
                         [&](const LayerElement&) { return priorityOf(element.children.front()); },
                         [&](const OffsetElement&) { return priorityOf(element.children.front()); },
-                        [&](const ToggleElement&) { return priorityOf(element.children.front()); },
+                        [&](const ControlElement&) { return priorityOf(element.children.front()); },
                         [](const auto&) { return 0.0; },
                     },
                     element.value);

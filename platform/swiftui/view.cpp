@@ -120,6 +120,13 @@ View vstack(VStackOptions options, std::vector<View> children) {
 View zstack(Alignment alignment, std::vector<View> children) {
   return View(Node{ZStackNode{.alignment = alignment, .children = std::move(children)}});
 }
+View gauge(GaugeOptions options, View label, View currentValueLabel) {
+  return View(Node{
+      GaugeNode{.options = options, .label = std::move(label), .currentValueLabel = std::move(currentValueLabel)}});
+}
+View geometryReader(std::function<View(Size)> content) {
+  return View(Node{GeometryReaderNode{.content = std::move(content)}});
+}
 View toggle(ToggleOptions options, View label) {
   return View(Node{ToggleNode{.options = std::move(options), .label = std::move(label)}});
 }

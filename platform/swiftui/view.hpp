@@ -1,6 +1,7 @@
 #pragma once
 
 #include <concepts>
+#include <functional>
 #include <initializer_list>
 #include <memory>
 #include <optional>
@@ -160,6 +161,17 @@ struct ToggleOptions {
 };
 /// Drawn by the toggle style around it; without one the label stands alone.
 View toggle(ToggleOptions options, View label);
+
+/// A value in a range that begins at 0, in the accessory circular style: an open ring with a marker at the value.
+struct GaugeOptions {
+  double value = 0;
+  double total = 1;
+};
+/// The label stands in the ring's opening, the value's label in its middle. A reader meets both as one.
+View gauge(GaugeOptions options, View label, View currentValueLabel);
+
+/// What is made for the size that is offered, once that is known; placed at the top leading corner.
+View geometryReader(std::function<View(Size)> content);
 
 template <Component C>
 View::View(C component)

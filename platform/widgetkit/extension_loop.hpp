@@ -15,8 +15,12 @@ int serveHost(ExtensionService& service, int descriptor);
 /// An extension's main: runs its bundle for the host that started it.
 template <WidgetBundle Bundle>
 int runBundle(const Bundle& bundle, ExtensionResources resources) {
-  ExtensionService service([bundle](const uikit::Platform& platform) { return bundle.body(platform); },
-                           std::move(resources));
+  ExtensionService service(
+      {.widgets = [&](const uikit::Platform& platform) { return bundle.body(platform); },
+       .perform = [&](const std::string& intent, const foundation::JSON& parameters,
+                      const uikit::Platform& platform) { return bundle.perform(intent, parameters, platform); },
+       .diagnose = [&](const uikit::Platform& platform) { return bundle.diagnose(platform); }},
+      std::move(resources));
   return serveHost(service, hostDescriptor);
 }
 

@@ -3,6 +3,7 @@
 #include <expected>
 
 #include "widgetkit/widget_drawing.hpp"
+#include "widgetkit/widget_sheet.hpp"
 
 namespace widgetkit {
 namespace {
@@ -10,11 +11,16 @@ namespace {
 using messages::Failure;
 using messages::Reply;
 
-constexpr double smallestScale = 0.25;
-constexpr double largestScale = 16;
+constexpr double smallestScale = 0.1;
+constexpr double largestScale = 10;
 
 Failure usage(std::string message) {
   return {.reason = Failure::Reason::usage, .message = std::move(message)};
+}
+
+std::optional<Failure> refusedScale(double scale) {
+  if (scale >= smallestScale && scale <= largestScale) return std::nullopt;
+  return usage("a scale has to lie from 0.1 to 10 pixels per point");
 }
 
 std::expected<StaticConfiguration, Failure> widgetNamed(const std::vector<StaticConfiguration>& widgets,
@@ -38,7 +44,8 @@ std::expected<swiftui::WidgetFamily, Failure> familyNamed(const std::string& nam
 
 }  // namespace
 
-Reply ExtensionService::answer(const messages::Envelope& envelope) {
+Reply ExtensionService::answer(const messages::Envelope& envelope, const ReportProgress& report) {
+  report_ = report ? report : [](const messages::Progress&) {};
   const auto platform = platformFor(envelope.world, resources_);
   if (!platform) return platform.error();
   try {
@@ -47,32 +54,51 @@ Reply ExtensionService::answer(const messages::Envelope& envelope) {
     return Failure{.reason = Failure::Reason::failed, .message = error.what()};
   } catch (const foundation::JSON::exception& error) {
     return Failure{.reason = Failure::Reason::failed,
-                   .message = std::string("the entry is not one of this kind: ") + error.what()};
+                   .message = std::string("the request does not fit: ") + error.what()};
   }
 }
 
 Reply ExtensionService::answer(const messages::DescribeCatalogue&, const uikit::Platform& platform) {
   messages::Catalogue catalogue;
-  for (const StaticConfiguration& widget : widgets_(platform)) catalogue.widgets.push_back(widget.describe());
+  for (const StaticConfiguration& widget : content_.widgets(platform)) catalogue.widgets.push_back(widget.describe());
   return catalogue;
 }
 
 Reply ExtensionService::answer(const messages::AskProvider& request, const uikit::Platform& platform) {
-  const auto widget = widgetNamed(widgets_(platform), request.kind);
+  const auto widget = widgetNamed(content_.widgets(platform), request.kind);
   if (!widget) return widget.error();
   return widget->entries(platform, request.operation);
 }
 
 Reply ExtensionService::answer(const messages::DrawEntry& request, const uikit::Platform& platform) {
-  const auto widget = widgetNamed(widgets_(platform), request.kind);
+  const auto widget = widgetNamed(content_.widgets(platform), request.kind);
   if (!widget) return widget.error();
   const auto family = familyNamed(request.family);
   if (!family) return family.error();
-  if (!(request.scale >= smallestScale && request.scale <= largestScale)) {
-    return usage("a scale has to lie between 0.25 and 16 pixels per point");
-  }
+  if (const auto refused = refusedScale(request.scale)) return *refused;
   const rendering::Scene scene = sceneOf(*widget, *family, request.entry, platform, request.scale, renderer());
-  return messages::Picture{.bytes = encoded(scene, request.format, request.scale, *widget, *family, renderer())};
+  using enum messages::PictureFormat;
+  if (request.format == text) return messages::Picture{.bytes = rendering::plainText(scene.meaning)};
+  if (request.format == json) return messages::Picture{.bytes = documentOf(scene, widget->kind(), *family)};
+  return messages::Picture{
+      .bytes = pictureOf(rendering::alone(scene), request.format, request.scale, platform.now, renderer())};
+}
+
+Reply ExtensionService::answer(const messages::DrawSheet& request, const uikit::Platform& platform) {
+  using enum messages::PictureFormat;
+  if (const auto refused = refusedScale(request.scale)) return *refused;
+  if (request.format == text || request.format == json) return usage("a sheet is a picture: PNG, SVG or PDF");
+  const auto sheet = sheetOf(content_.widgets(platform), platform, request.scale, renderer(), report_);
+  return messages::Picture{.bytes = pictureOf(sheet, request.format, request.scale, platform.now, renderer())};
+}
+
+Reply ExtensionService::answer(const messages::PerformIntent& request, const uikit::Platform& platform) {
+  if (content_.perform(request.intent, request.parameters, platform)) return messages::Done{};
+  return usage("action '" + request.intent + "' is unknown");
+}
+
+Reply ExtensionService::answer(const messages::DiagnoseContainer&, const uikit::Platform& platform) {
+  return content_.diagnose(platform);
 }
 
 const rendering::Renderer& ExtensionService::renderer() {

@@ -11,27 +11,40 @@
 
 namespace widgetkit {
 
+/// What a service asks of the extension that it serves; see WidgetBundle.
+struct ExtensionContent {
+  std::function<std::vector<StaticConfiguration>(const uikit::Platform&)> widgets = nullptr;
+  std::function<bool(const std::string& intent, const foundation::JSON& parameters, const uikit::Platform&)> perform =
+      nullptr;
+  std::function<messages::Diagnosis(const uikit::Platform&)> diagnose = nullptr;
+};
+
 /// Answers requests. Of what a request brings nothing is kept for the next; fonts and pictures once read are.
 class ExtensionService {
  public:
-  using Widgets = std::function<std::vector<StaticConfiguration>(const uikit::Platform&)>;
+  /// Told how far a long answer is.
+  using ReportProgress = std::function<void(const messages::Progress&)>;
 
-  ExtensionService(Widgets widgets, ExtensionResources resources)
-      : widgets_(std::move(widgets)), resources_(std::move(resources)) {}
+  ExtensionService(ExtensionContent content, ExtensionResources resources)
+      : content_(std::move(content)), resources_(std::move(resources)) {}
 
-  messages::Reply answer(const messages::Envelope& envelope);
+  messages::Reply answer(const messages::Envelope& envelope, const ReportProgress& report = {});
 
  private:
   messages::Reply answer(const messages::DescribeCatalogue& request, const uikit::Platform& platform);
   messages::Reply answer(const messages::AskProvider& request, const uikit::Platform& platform);
   messages::Reply answer(const messages::DrawEntry& request, const uikit::Platform& platform);
+  messages::Reply answer(const messages::DrawSheet& request, const uikit::Platform& platform);
+  messages::Reply answer(const messages::PerformIntent& request, const uikit::Platform& platform);
+  messages::Reply answer(const messages::DiagnoseContainer& request, const uikit::Platform& platform);
 
   /// Made when something is first drawn: a process that only builds timelines needs no fonts.
   const rendering::Renderer& renderer();
 
-  Widgets widgets_;
+  ExtensionContent content_;
   ExtensionResources resources_;
   std::optional<rendering::Renderer> renderer_;
+  ReportProgress report_;  ///< of the request that is being answered
 };
 
 }  // namespace widgetkit

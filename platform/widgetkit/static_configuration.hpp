@@ -50,6 +50,7 @@ class StaticConfiguration {
   const std::string& shortName() const { return shortName_; }
   bool areContentMarginsDisabled() const { return areContentMarginsDisabled_; }
   bool isContainerBackgroundRemovable() const { return isContainerBackgroundRemovable_; }
+  const std::vector<swiftui::WidgetFamily>& families() const { return families_; }
   messages::WidgetDescription describe() const;
 
   /// Asks the provider.

@@ -8,11 +8,16 @@
 
 namespace widgetkit {
 
-/// All widgets of an extension, in the gallery's order. What they are called and which families they offer depends on
-/// the device.
+/// All that an extension offers: its widgets in the gallery's order (what they are called and which families they offer
+/// depends on the device), its actions, and what it has to say of the files that it reads.
 template <class Bundle>
-concept WidgetBundle = requires(const Bundle& bundle, const uikit::Platform& platform) {
+concept WidgetBundle = requires(const Bundle& bundle, const uikit::Platform& platform, const std::string& intent,
+                                const foundation::JSON& parameters) {
   { bundle.body(platform) } -> std::same_as<std::vector<StaticConfiguration>>;
+  /// Runs an action; false where there is none of that name. Throws foundation::JSON::exception for other parameters
+  /// than its own.
+  { bundle.perform(intent, parameters, platform) } -> std::same_as<bool>;
+  { bundle.diagnose(platform) } -> std::same_as<messages::Diagnosis>;
 };
 
 }  // namespace widgetkit

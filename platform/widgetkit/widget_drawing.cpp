@@ -1,5 +1,6 @@
 #include "widgetkit/widget_drawing.hpp"
 
+#include "foundation/fatal_error.hpp"
 #include "rendering/display_list_json.hpp"
 #include "widgetkit/widget_size.hpp"
 
@@ -17,16 +18,6 @@ swiftui::EdgeInsets marginsOf(const StaticConfiguration& widget, WidgetFamily fa
       systemVersion >= contentMarginsVersion && !widget.areContentMarginsDisabled() && !swiftui::isAccessory(family);
   if (!hasMargins) return {};
   return {.top = contentMargin, .leading = contentMargin, .bottom = contentMargin, .trailing = contentMargin};
-}
-
-foundation::JSON documentOf(const rendering::Scene& scene, const std::string& kind, WidgetFamily family) {
-  return {{"kind", kind},
-          {"family", swiftui::nameOf(family)},
-          {"width", rendering::jsonOfLength(scene.size.width)},
-          {"height", rendering::jsonOfLength(scene.size.height)},
-          {"colorScheme", scene.colorScheme == uikit::ColorScheme::dark ? "dark" : "light"},
-          {"drawn", rendering::jsonOf(scene.drawn)},
-          {"meaning", rendering::jsonOf(scene.meaning)}};
 }
 
 }  // namespace
@@ -50,18 +41,31 @@ rendering::Scene sceneOf(const StaticConfiguration& widget, WidgetFamily family,
                             measurer);
 }
 
-std::string encoded(const rendering::Scene& scene, messages::PictureFormat format, double scale,
-                    const StaticConfiguration& widget, WidgetFamily family, const rendering::Renderer& renderer) {
+std::string pictureOf(const rendering::Composition& composition, messages::PictureFormat format, double scale,
+                      foundation::Date created, const rendering::Renderer& renderer) {
   switch (format) {
     case messages::PictureFormat::png:
-      return renderer.png(scene, scale);
+      return renderer.png(composition, scale);
+    case messages::PictureFormat::svg:
+      return renderer.svg(composition);
+    case messages::PictureFormat::pdf:
+      return renderer.pdf(composition, created);
     case messages::PictureFormat::text:
-      return rendering::plainText(scene.meaning);
     case messages::PictureFormat::json:
       break;
   }
-  return documentOf(scene, widget.kind(), family).dump(2, ' ', false, foundation::JSON::error_handler_t::replace) +
-         "\n";
+  foundation::fatalError("a picture was asked for in a form that is none");
+}
+
+std::string documentOf(const rendering::Scene& scene, const std::string& kind, WidgetFamily family) {
+  const foundation::JSON document{{"kind", kind},
+                                  {"family", swiftui::nameOf(family)},
+                                  {"width", rendering::jsonOfLength(scene.size.width)},
+                                  {"height", rendering::jsonOfLength(scene.size.height)},
+                                  {"colorScheme", scene.colorScheme == uikit::ColorScheme::dark ? "dark" : "light"},
+                                  {"drawn", rendering::jsonOf(scene.drawn)},
+                                  {"meaning", rendering::jsonOf(scene.meaning)}};
+  return document.dump(2, ' ', false, foundation::JSON::error_handler_t::replace) + "\n";
 }
 
 }  // namespace widgetkit

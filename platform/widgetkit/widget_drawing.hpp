@@ -12,9 +12,11 @@ namespace widgetkit {
 rendering::Scene sceneOf(const StaticConfiguration& widget, swiftui::WidgetFamily family, const foundation::JSON& entry,
                          const uikit::Platform& platform, double displayScale, const swiftui::LeafMeasurer& measurer);
 
-/// A scene as the bytes of a file.
-std::string encoded(const rendering::Scene& scene, messages::PictureFormat format, double scale,
-                    const StaticConfiguration& widget, swiftui::WidgetFamily family,
-                    const rendering::Renderer& renderer);
+/// The bytes of a picture file: PNG, SVG or PDF. Texts and JSON are no pictures.
+std::string pictureOf(const rendering::Composition& composition, messages::PictureFormat format, double scale,
+                      foundation::Date created, const rendering::Renderer& renderer);
+
+/// The placed tree of a scene and its meaning, as the JSON form that scripts read.
+std::string documentOf(const rendering::Scene& scene, const std::string& kind, swiftui::WidgetFamily family);
 
 }  // namespace widgetkit

@@ -70,7 +70,8 @@ TEST_F(CommandLine, SaysInOneLineWhatIsWrong) {
       {"snapshot unknown", 2, "unknown kind"},
       {"placeholder unknown", 2, "unknown kind"},
       {"render tasks systemSmall", 2, "--output is required"},
-      {"render tasks systemSmall -o picture.gif", 2, "-o: 'picture.gif' does not end in .png, .txt or .json"},
+      {"render tasks systemSmall -o picture.gif", 2,
+       "-o: 'picture.gif' does not end in .png, .svg, .pdf, .txt or .json"},
       {"render tasks systemSmall -o -", 2, "-o: '-' does not end in"},
       {"render tasks systemSmall -o a.png --at noon", 2, "--at: 'noon' is not a moment"},
       {"render tasks systemSmall -o a.png --scale 0", 2, "--scale: must be from 0.1 to 10"},
@@ -108,8 +109,8 @@ TEST_F(CommandLine, HelpsOnStandardOutput) {
 
 TEST_F(CommandLine, ListsTheGallery) {
   EXPECT_EQ(run("gallery").output,
-            "tasks  Fake_Widgets   systemSmall systemMedium  Today's tasks\n"
-            "moods  Fake_Widgets2  systemLarge               A month\n");
+            "tasks  Fake_Widgets   Tasks  systemSmall systemMedium  Today's tasks\n"
+            "moods  Fake_Widgets2  Moods  systemLarge               A month\n");
   EXPECT_EQ(runForJSON("gallery --json")[1], JSON::parse(R"({"kind": "Fake_Widgets2", "shortName": "moods",
       "displayName": "Moods", "description": "A month", "families": ["systemLarge"]})"));
 }

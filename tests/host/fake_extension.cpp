@@ -110,6 +110,10 @@ messages::Reply answer(const messages::DrawEntry& request, const messages::World
   return messages::Picture{.bytes = JSON(messages::Envelope{.world = world, .request = request}).dump()};
 }
 
+messages::Reply answer(const auto&, const messages::World&) {
+  return messages::Failure{messages::Failure::Reason::failed, "the fake knows no such request"};
+}
+
 }  // namespace
 
 int main() {

@@ -11,7 +11,8 @@ using namespace swiftui;
 std::string drawnFile(const View& view, Size size, double scale, double cornerRadius = 0) {
   const Renderer renderer("no resources");
   return renderer.png(
-      compose(resolve(view, {}), {.size = size, .cornerRadius = cornerRadius, .displayScale = scale}, renderer), scale);
+      alone(compose(resolve(view, {}), {.size = size, .cornerRadius = cornerRadius, .displayScale = scale}, renderer)),
+      scale);
 }
 
 View coloured(const View& view, uikit::RGBA color) {

@@ -51,8 +51,12 @@ struct ClockBundle {
 };
 
 inline ExtensionService clockService() {
-  return ExtensionService([](const uikit::Platform& platform) { return ClockBundle().body(platform); },
-                          {.folder = "no resources"});
+  return ExtensionService(
+      {.widgets = [](const uikit::Platform& platform) { return ClockBundle().body(platform); },
+       .perform = [](const std::string& intent, const foundation::JSON& parameters,
+                     const uikit::Platform&) { return intent == "Wind" && parameters.at("turns").get<int>() > 0; },
+       .diagnose = [](const uikit::Platform&) { return messages::Diagnosis{}; }},
+      {.folder = "no resources"});
 }
 
 }  // namespace widgetkit

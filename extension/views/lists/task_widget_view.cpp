@@ -4,7 +4,9 @@
 #include "foundation/strings.hpp"
 #include "lists/header_row.hpp"
 #include "lists/list_texts.hpp"
+#include "lists/system_features.hpp"
 #include "lists/test_toggle.hpp"
+#include "lists/todo_content.hpp"
 
 namespace mirune {
 
@@ -18,17 +20,18 @@ constexpr std::size_t rowCap = 3;
 constexpr double closestRows = 23;
 constexpr double widestRows = 27;
 
-View row(const TaskWidgetInner& item) {
-  return View(TestToggle{.id = item.id.string(), .text = item.title, .date = item.date})
-      .padding({.top = 1, .bottom = 1})
-      .frame({.minHeight = closestRows, .maxHeight = widestRows});
+View row(const TaskWidgetInner& item, bool isInteractive) {
+  const View content = isInteractive
+                           ? View(TestToggle{.id = item.id.string(), .text = item.title, .date = item.date})
+                           : View(TodoContent{.on = item.isOn, .text = item.title}).font(system(14, FontWeight::light));
+  return content.padding({.top = 1, .bottom = 1}).frame({.minHeight = closestRows, .maxHeight = widestRows});
 }
 
-View rows(const TaskEntry& entry) {
+View rows(const TaskEntry& entry, bool isInteractive) {
   std::vector<View> views;
   for (const TaskWidgetInner& item : entry.data) {
     if (views.size() == rowCap) break;
-    views.push_back(row(item));
+    views.push_back(row(item, isInteractive));
   }
   return group(std::move(views));
 }
@@ -42,13 +45,14 @@ View emptyText(const TaskEntry& entry, const foundation::Words& words) {
 
 View TaskWidgetView::body(const EnvironmentValues& environment) const {
   const foundation::Words& words = environment.platform->words;
+  const bool isInteractive = environment.platform->systemVersion >= interactiveVersion;
   const View header = shouldAddHeader ? View(HeaderRow{.name = entry.name, .image = entry.image, .date = entry.date})
                                       : listTitle(entry.name);
   const long long more = foundation::checkedDifference(entry.count, rowCap);
   return vstack({.alignment = HorizontalAlignment::leading, .spacing = 0},
                 {
                     header.padding({.bottom = 3}),
-                    entry.count < 1 ? emptyText(entry, words) : rows(entry),
+                    entry.count < 1 ? emptyText(entry, words) : rows(entry, isInteractive),
                     more >= 1 ? moreFooter(words, more).padding({.top = 3}) : emptyView(),
                 })
       .frame({.maxWidth = infinity, .maxHeight = infinity, .alignment = Alignment::topLeading})

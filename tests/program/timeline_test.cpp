@@ -1,0 +1,41 @@
+#include "program.hpp"
+#include "support/recorded_container.hpp"
+
+namespace program {
+namespace {
+
+TEST(TimelineCommand, PrintsWhatWasRecorded) {
+  for (const std::string& name : support::recordedTimelines()) {
+    SCOPED_TRACE(name);
+    const support::RecordedContainer recorded(name);
+    const World world{.container = recorded.folder.path().string(),
+                      .now = recorded.now,
+                      .timeZone = recorded.timeZone,
+                      .locale = recorded.locale};
+    for (const std::string list : {"tasks", "habits"}) {
+      const auto timeline = jsonOutput(run(recorded.folder.path(), "timeline " + list + " --json" + world.options()));
+      EXPECT_EQ(support::differences(support::asRecorded(timeline.at("entries"), list), recorded.expected.at(list)), "")
+          << list;
+      EXPECT_EQ(timeline.at("policy"), "atEnd");
+      EXPECT_EQ(timeline.at("kind"), list == "tasks" ? "Mirune_Widgets2" : "Mirune_Widgets3");
+    }
+  }
+}
+
+TEST(TimelineCommand, SaysWhenTheMoodWidgetsAskAgain) {
+  const support::TemporaryFolder folder;
+  const auto timeline = jsonOutput(run(folder.path(), "timeline moods --json" + World().options()));
+  EXPECT_EQ(timeline, nlohmann::json::parse(R"({"kind": "Mirune_Widgets6", "entries": [],
+                                                "policy": {"after": "2026-11-21T23:00:00Z"}})"));
+}
+
+TEST(TimelineCommand, PassesDebugLinesOn) {
+  const support::TemporaryFolder folder;
+  const auto result = run(folder.path(), "timeline tasks" + World().options());
+  EXPECT_EQ(result.exitCode, 0);
+  EXPECT_EQ(result.debugLines, (std::vector<std::string>{"groupURLnilllll", "groupURLnilllll"}));
+  EXPECT_FALSE(std::filesystem::exists(folder / "container")) << "no container is made";
+}
+
+}  // namespace
+}  // namespace program
