@@ -7,15 +7,10 @@
 #include "foundation/json_decoder.hpp"
 
 namespace mirune {
-namespace {
-
-/// What ids are compared by.
-std::string comparable(std::string_view id) {
+std::string comparableID(std::string_view id) {
   const auto uuid = foundation::UUID::parse(id);
   return uuid ? uuid->string() : std::string(id);
 }
-
-}  // namespace
 
 std::string encodeOverrideState(const OverrideState& state) {
   foundation::JSON json = foundation::JSON::object();
@@ -41,13 +36,13 @@ OverrideState readOverrideState(const uikit::Platform& platform) {
 }
 
 OverrideLookup::OverrideLookup(const OverrideState& state) {
-  for (const auto& [id, date] : state) ids_.push_back(comparable(id));
+  for (const auto& [id, date] : state) ids_.push_back(comparableID(id));
   std::ranges::sort(ids_);
 }
 
 bool OverrideLookup::contains(std::string_view id) const {
   // Most of the time nothing is ticked.
-  return !ids_.empty() && std::ranges::binary_search(ids_, comparable(id));
+  return !ids_.empty() && std::ranges::binary_search(ids_, comparableID(id));
 }
 
 }  // namespace mirune

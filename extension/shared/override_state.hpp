@@ -28,15 +28,18 @@ std::optional<OverrideState> decodeOverrideState(std::string_view bytes);
 /// to the debug log.
 OverrideState readOverrideState(const uikit::Platform& platform);
 
-/// Looks items up in an override state. An id counts in either case of its letters where it is a UUID, for a widget's
-/// row carries the UUID, which prints in upper case, while the planner may write lower case.
+/// What ids of items are compared by: a UUID in upper case, every other text as it is. A widget's row carries the UUID,
+/// which prints in upper case, while the planner may write lower case.
+std::string comparableID(std::string_view id);
+
+/// Looks items up in an override state, by their comparable ids.
 class OverrideLookup {
  public:
   explicit OverrideLookup(const OverrideState& state);
   bool contains(std::string_view id) const;
 
  private:
-  std::vector<std::string> ids_;  ///< sorted; UUIDs in upper case
+  std::vector<std::string> ids_;  ///< comparable, sorted
 };
 
 }  // namespace mirune

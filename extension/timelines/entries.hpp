@@ -7,6 +7,7 @@
 
 #include "foundation/date.hpp"
 #include "foundation/uuid.hpp"
+#include "shared/daily_mood.hpp"
 #include "uikit/color.hpp"
 
 namespace mirune {
@@ -79,17 +80,6 @@ struct CalendarEntry {
   foundation::Date month_date = {};  ///< midnight of the first day of the month to draw
   foundation::Date today_date = {};  ///< midnight of the day to mark
   friend bool operator==(const CalendarEntry&, const CalendarEntry&) = default;
-};
-
-/// A mood as the user defined it.
-struct MiruneDailyMood {
-  std::string id = {};
-  std::string name = {};
-  std::string icon = {};   ///< of an image asset
-  std::string color = {};  ///< hexadecimal
-  bool isOriginalColor = false;
-  bool hasBeenDeleted = false;
-  friend bool operator==(const MiruneDailyMood&, const MiruneDailyMood&) = default;
 };
 
 /// The mood of one day.

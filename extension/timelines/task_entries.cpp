@@ -3,13 +3,12 @@
 #include "foundation/fatal_error.hpp"
 #include "shared/item_files.hpp"
 #include "shared/override_state.hpp"
+#include "shared/shown_days.hpp"
 #include "timelines/color_offset.hpp"
 #include "timelines/days.hpp"
 
 namespace mirune {
 namespace {
-
-constexpr int days = 15;
 
 /// What tells tasks and habits apart.
 struct ListKind {
@@ -42,7 +41,7 @@ std::vector<TaskEntry> entriesOf(const ListKind& kind, std::int64_t offset, cons
   const OverrideLookup done(readOverrideState(platform));
   const auto start = platform.calendar.startOfDay(platform.now);
   std::vector<TaskEntry> entries;
-  for (int i = 0; i < days; ++i) {
+  for (int i = 0; i < shownDays; ++i) {
     TaskEntry entry = emptyTaskEntry(dayAfter(platform.calendar, start, i), platform.words.localized(kind.name));
     entry.image = badgeNumber(offset, platform.calendar, entry.date);
     const auto& dated = itemsUnder(items.byDay, foundation::dayKey(entry.date, platform.calendar.timeZone()));

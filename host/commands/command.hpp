@@ -1,17 +1,28 @@
 #pragma once
 
 #include <CLI/App.hpp>
+#include <concepts>
 #include <expected>
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "host/surroundings.hpp"
 #include "messages/replies.hpp"
 
 namespace host {
 
-/// What a command prints on standard output, or why it failed.
-using Outcome = std::expected<std::string, messages::Failure>;
+/// What a command prints on standard output.
+struct Printed {
+  Printed(std::convertible_to<std::string> auto&& printed)  // NOLINT(google-explicit-constructor)
+      : text(std::forward<decltype(printed)>(printed)) {}
+
+  std::string text;
+  bool foundFaults = false;  ///< the command did its work, and something that it looked at is not as it should be
+};
+
+/// What a command printed, or why it failed.
+using Outcome = std::expected<Printed, messages::Failure>;
 
 /// A subcommand of the program.
 struct Command {
@@ -35,6 +46,8 @@ Command placeholderCommand();
 Command snapshotCommand();
 Command renderCommand();
 Command sheetCommand();
+Command tapCommand();
 Command demoCommand();
+Command doctorCommand();
 
 }  // namespace host

@@ -6,6 +6,7 @@
 #include <map>
 
 #include "host/commands/command.hpp"
+#include "host/commands/text.hpp"
 
 namespace host {
 
@@ -16,13 +17,11 @@ enum ExitCode { done = 0, commandFailed = 1, wrongUsage = 2 };
 using Run = std::function<Outcome()>;
 
 CommandLineResult failure(ExitCode exitCode, const std::string& message) {
-  std::string line = "mirune: " + message;
-  std::ranges::replace_if(line, [](char c) { return ('\0' <= c && c < ' ') || c == '\x7f'; }, ' ');
-  return {.exitCode = exitCode, .error = line + "\n"};
+  return {.exitCode = exitCode, .error = "mirune: " + printable(message) + "\n"};
 }
 
 CommandLineResult result(const Outcome& outcome) {
-  if (outcome) return {.output = *outcome};
+  if (outcome) return {.exitCode = outcome->foundFaults ? commandFailed : done, .output = outcome->text};
   const auto& [reason, message] = outcome.error();
   return failure(reason == messages::Failure::Reason::usage ? wrongUsage : commandFailed, message);
 }
@@ -36,7 +35,7 @@ std::map<const CLI::App*, Run> declareCommands(CLI::App& app, const Surroundings
   app.footer("Exit codes: 0 done, 1 failed, 2 usage. mirune COMMAND --help explains a command.");
   std::map<const CLI::App*, Run> runs;
   for (const auto& command : {galleryCommand(), timelineCommand(), placeholderCommand(), snapshotCommand(),
-                              renderCommand(), sheetCommand(), demoCommand()}) {
+                              renderCommand(), sheetCommand(), tapCommand(), demoCommand(), doctorCommand()}) {
     auto* subcommand = app.add_subcommand(command.name, command.summary);
     runs[subcommand] = command.declare(*subcommand, surroundings);
   }

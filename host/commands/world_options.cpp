@@ -1,11 +1,10 @@
 #include "host/commands/world_options.hpp"
 
 #include <filesystem>
-#include <tuple>
 
-#include "foundation/json.hpp"
 #include "host/commands/command.hpp"
 #include "host/commands/moment.hpp"
+#include "host/commands/text.hpp"
 
 namespace host {
 
@@ -14,15 +13,6 @@ namespace {
 /// The extension may run in another folder; an empty path stays empty: no container.
 std::string absolutePath(const std::string& path) {
   return path.empty() ? path : std::filesystem::absolute(path).string();
-}
-
-bool isUTF8(const std::string& text) {
-  try {
-    std::ignore = foundation::JSON(text).dump();
-    return true;
-  } catch (const foundation::JSON::exception&) {
-    return false;
-  }
 }
 
 }  // namespace

@@ -114,6 +114,17 @@ std::expected<std::string, std::error_code> readFile(const std::filesystem::path
   return bytes;
 }
 
+std::expected<FileStatus, std::error_code> fileStatus(const std::filesystem::path& path) {
+  struct stat status = {};
+  if (::stat(path.c_str(), &status) != 0) return lastError();
+  using namespace std::chrono;
+  constexpr sys_seconds earliest = sys_days(year(1) / January / 1);
+  constexpr sys_seconds latest = sys_days(year(9999) / December / 31);
+  const auto second = std::clamp(sys_seconds(seconds(status.st_mtim.tv_sec)), earliest, latest);
+  return FileStatus{.modified = second + duration_cast<milliseconds>(nanoseconds(status.st_mtim.tv_nsec)),
+                    .size = status.st_size};
+}
+
 std::expected<void, std::error_code> writeFileAtomically(const std::filesystem::path& path, std::string_view bytes) {
   const std::optional<mode_t> mode = existingMode(path);
   TemporaryFile file(path, mode.value_or(newFileMode));

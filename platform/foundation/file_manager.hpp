@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <expected>
 #include <filesystem>
 #include <optional>
@@ -7,10 +8,20 @@
 #include <string_view>
 #include <system_error>
 
+#include "foundation/date.hpp"
+
 namespace foundation {
 
 /// Reads the whole of a regular file, or says why not. A file that grows or shrinks meanwhile gives what was read.
 std::expected<std::string, std::error_code> readFile(const std::filesystem::path& path);
+
+struct FileStatus {
+  Date modified = {};  ///< kept within the years 1 to 9999
+  std::int64_t size = 0;
+};
+
+/// What a folder says of a file (of a symbolic link, what it leads to), or why it cannot be told.
+std::expected<FileStatus, std::error_code> fileStatus(const std::filesystem::path& path);
 
 /// Replaces a file in one step: a temporary file in the same folder is written, synced and moved over it, so that
 /// readers see the old bytes or the new ones. The mode of an existing file is kept (a new one gets 0666 less the

@@ -47,6 +47,10 @@ std::optional<PropertyList> PropertyList::parse(std::string_view bytes) {
   return PropertyList(std::move(root), isBinary ? Form::binary : Form::xml);
 }
 
+bool PropertyList::contains(std::string_view key) const {
+  return plist_dict_get_item(root_.get(), std::string(key).c_str()) != nullptr;
+}
+
 PropertyList::Value PropertyList::value(std::string_view key) const {
   const plist_t node = plist_dict_get_item(root_.get(), std::string(key).c_str());
   switch (plist_get_node_type(node)) {

@@ -22,6 +22,7 @@ class PropertyList {
   /// Nothing for damaged bytes, for another root than a dictionary and for more than 16 MiB or 256 nested containers.
   static std::optional<PropertyList> parse(std::string_view bytes);
 
+  bool contains(std::string_view key) const;
   Value value(std::string_view key) const;
   void set(std::string_view key, std::int64_t value);
   void set(std::string_view key, bool value);

@@ -66,6 +66,14 @@ struct ToBoolean {
   }
 };
 
+struct ToType {
+  SettingType operator()(std::monostate) const { return SettingType::other; }
+  SettingType operator()(bool) const { return SettingType::boolean; }
+  SettingType operator()(std::int64_t) const { return SettingType::integer; }
+  SettingType operator()(double) const { return SettingType::real; }
+  SettingType operator()(const std::string&) const { return SettingType::text; }
+};
+
 /// Nothing where the file is there but cannot be read.
 std::optional<PropertyList> readList(const std::filesystem::path& path) {
   const auto bytes = readFile(path);
@@ -104,6 +112,10 @@ std::int64_t UserDefaults::integer(std::string_view key) const {
 
 bool UserDefaults::boolean(std::string_view key) const {
   return std::visit(ToBoolean(), list_->value(key));
+}
+
+SettingType UserDefaults::type(std::string_view key) const {
+  return list_->contains(key) ? std::visit(ToType(), list_->value(key)) : SettingType::absent;
 }
 
 void UserDefaults::set(std::string_view key, std::int64_t value) {

@@ -13,6 +13,9 @@ namespace foundation {
 
 class PropertyList;
 
+/// What a suite holds under a key.
+enum class SettingType { absent, boolean, integer, real, text, other };
+
 /// A suite of settings: a property list, XML or binary, at CONTAINER/Library/Preferences/SUITE.plist.
 class UserDefaults {
  public:
@@ -25,6 +28,9 @@ class UserDefaults {
   /// False where absent or not convertible; numbers are true but for 0, texts that begin with t, T, y, Y or a number
   /// other than 0 are true.
   bool boolean(std::string_view key) const;
+
+  /// As stored: what integer() and boolean() convert from.
+  SettingType type(std::string_view key) const;
 
   /// Stores values by a fresh read, change and atomic write of the file, so that all other keys and the file's form
   /// (XML or binary; XML for a new one) stay. The folder is made where it is missing. A failed write is silent, and a

@@ -11,6 +11,11 @@ namespace {
 constexpr Texts<Failure::Reason, 2> reasonTexts = {
     {{"usage", Failure::Reason::usage}, {"failed", Failure::Reason::failed}}};
 
+constexpr Texts<FileState, 4> stateTexts = {{{"missing", FileState::missing},
+                                             {"unreadable", FileState::unreadable},
+                                             {"refused", FileState::refused},
+                                             {"decoded", FileState::decoded}}};
+
 constexpr const char* failure = "failure";
 constexpr const char* catalogue = "catalogue";
 constexpr const char* timeline = "timeline";
@@ -36,15 +41,13 @@ WidgetDescription widgetFrom(const JSON& json) {
 }
 
 JSON fileJSON(const FileDiagnosis& file) {
-  return {{"file", file.file},
-          {"modified", JSON(file.modified)},
-          {"size", file.size},
-          {"problems", JSON(file.problems)},
-          {"consequence", file.consequence}};
+  return {{"file", file.file}, {"state", textOf(file.state, stateTexts)}, {"modified", JSON(file.modified)},
+          {"size", file.size}, {"problems", JSON(file.problems)},         {"consequence", file.consequence}};
 }
 
 FileDiagnosis fileFrom(const JSON& json) {
   return {.file = field<std::string>(json, "file"),
+          .state = enumField(json, "state", stateTexts),
           .modified = json.at("modified").get<std::optional<foundation::Date>>(),
           .size = json.at("size").get<std::int64_t>(),
           .problems = field<std::vector<std::string>>(json, "problems"),

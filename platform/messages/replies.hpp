@@ -51,13 +51,21 @@ struct Progress {
   friend bool operator==(const Progress&, const Progress&) = default;
 };
 
+enum class FileState {
+  missing,     ///< not there, which is no problem by itself
+  unreadable,  ///< there, but the system does not give it
+  refused,     ///< read, but it does not decode
+  decoded,
+};
+
 /// What is to be said of one shared file.
 struct FileDiagnosis {
-  std::string file = {};                                    ///< below the container
-  std::optional<foundation::Date> modified = std::nullopt;  ///< absent: the file is not there
+  std::string file = {};  ///< below the container
+  FileState state = FileState::missing;
+  std::optional<foundation::Date> modified = std::nullopt;  ///< absent where it cannot be told
   std::int64_t size = 0;                                    ///< bytes
   std::vector<std::string> problems = {};                   ///< each a line; empty where all is well
-  std::string consequence = {};                             ///< what widgets show because of the problems
+  std::string consequence = {};                             ///< what follows where the file is not decoded
   friend bool operator==(const FileDiagnosis&, const FileDiagnosis&) = default;
 };
 

@@ -28,6 +28,8 @@ TEST(Envelope, SurvivesTheWire) {
                 .format = PictureFormat::text,
                 .scale = 1.5},
       DrawEntry{.format = PictureFormat::json},
+      PerformIntent{.intent = "TaskIntent", .parameters = {{"id", "é\"/"}, {"date", nullptr}}},
+      DiagnoseContainer{},
   };
   for (const Request& request : requests) {
     const Envelope envelope = {.world = world, .request = request};
@@ -90,6 +92,17 @@ TEST(Reply, SurvivesTheWireButForThePicturesBytes) {
       Timeline{},
       Timeline{.entries = {JSON::array({1})}},
       Picture{},
+      Done{},
+      Diagnosis{},
+      Diagnosis{.hasContainer = true,
+                .files = {{.file = "a.json",
+                           .state = FileState::refused,
+                           .modified = world.now,
+                           .size = INT64_MAX,
+                           .problems = {"a", "ü"},
+                           .consequence = "c"},
+                          {.state = FileState::unreadable},
+                          {}}},
   };
   for (const Reply& reply : replies) {
     const std::string wire = JSON(reply).dump();
@@ -103,7 +116,9 @@ TEST(Reply, RefusesWhatIsNone) {
        {R"({})", R"([])", R"({"reply": "song"})", R"({"reply": "failure", "reason": "mood", "message": ""})",
         R"({"reply": "failure", "reason": "usage"})", R"({"reply": "catalogue", "widgets": {}})",
         R"({"reply": "catalogue", "widgets": [{"kind": "K"}]})", R"({"reply": "catalogue", "widgets": [5]})",
-        R"({"reply": "timeline", "kind": "K", "policy": "never", "entries": 5})"}) {
+        R"({"reply": "timeline", "kind": "K", "policy": "never", "entries": 5})",
+        R"({"reply": "diagnosis", "hasContainer": 1, "files": []})",
+        R"({"reply": "diagnosis", "hasContainer": true, "files": [{"file": "a.json", "state": "odd"}]})"}) {
     EXPECT_THROW(JSON::parse(wire).get<Reply>(), JSON::exception) << wire;
   }
 }
