@@ -8,7 +8,7 @@
 namespace rendering {
 namespace {
 
-constexpr glong mostCharacters = 5000;
+constexpr glong mostCharacters = 4096;
 
 // The longer ones before those that they begin with.
 constexpr std::string_view lineBreaks[] = {"\r\n", "\r", "\v", "\f", "\u0085", "\u2028", "\u2029"};

@@ -34,8 +34,8 @@ std::string nameOf(const PlacedElement& placed) {
           [](const LayoutPriorityElement&) { return std::string("layoutPriority"); },
           [](const OffsetElement&) { return std::string("offset"); },
           [](const LayerElement& layer) { return std::string(layer.isBehind ? "background" : "overlay"); },
-          [](const ControlElement& element) {
-            return std::string(std::holds_alternative<ToggleMeaning>(element.control) ? "toggle" : "gauge");
+          [](const ControlElement& control) {
+            return std::string(std::holds_alternative<ToggleMeaning>(control.control) ? "toggle" : "gauge");
           },
           [](const GeometryReaderElement&) { return std::string("geometryReader"); },
       },

@@ -86,6 +86,12 @@ TEST(DisplayList, PrintsAsJSON) {
             "\n");
 }
 
+TEST(DisplayList, PrintsTheScaleOfATextThatIsShrunk) {
+  const auto json = jsonOf(DisplayList{DrawText{.shown = "a", .scale = 0.8333}, DrawText{.shown = "b"}});
+  EXPECT_EQ(json[0]["scale"], 0.83);
+  EXPECT_FALSE(json[1].contains("scale"));
+}
+
 TEST(DisplayList, AlignsTheLinesOfAText) {
   const struct {
     TextAlignment alignment;

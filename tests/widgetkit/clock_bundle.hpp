@@ -55,7 +55,7 @@ inline ExtensionService clockService() {
       {.widgets = [](const uikit::Platform& platform) { return ClockBundle().body(platform); },
        .perform = [](const std::string& intent, const foundation::JSON& parameters,
                      const uikit::Platform&) { return intent == "Wind" && parameters.at("turns").get<int>() > 0; },
-       .diagnose = [](const uikit::Platform&) { return messages::Diagnosis{.hasContainer = true}; }},
+       .diagnose = [](const uikit::Platform&) { return messages::Diagnosis{}; }},
       {.folder = "no resources"});
 }
 

@@ -134,6 +134,9 @@ TEST(ExtensionService, SaysWhyItDoesNotAnswer) {
   } rows[] = {
       {AskProvider{.kind = "calendar"}, usage,
        "kind 'calendar' is unknown; use clock (Clock_Widget), bare (Bare_Widget)"},
+      {messages::PerformIntent{.intent = "Smash", .parameters = {{"turns", 1}}}, usage, "action 'Smash' is unknown"},
+      {messages::PerformIntent{.intent = "Wind", .parameters = JSON::object()}, failed, "does not fit"},
+      {messages::DrawSheet{.format = PictureFormat::text}, usage, "a sheet is a picture"},
       {AskProvider{.kind = ""}, usage, "kind '' is unknown"},
       {DrawEntry{.kind = "Clock", .family = "systemSmall", .entry = entry}, usage, "kind 'Clock' is unknown"},
       {DrawEntry{.kind = "clock", .family = "huge", .entry = entry}, usage,
@@ -141,9 +144,8 @@ TEST(ExtensionService, SaysWhyItDoesNotAnswer) {
       {DrawEntry{.kind = "clock", .family = "systemSmall", .entry = entry, .scale = 0}, usage, "scale"},
       {DrawEntry{.kind = "clock", .family = "systemSmall", .entry = entry, .scale = 17}, usage, "scale"},
       {DrawEntry{.kind = "clock", .family = "systemSmall", .entry = entry, .scale = std::nan("")}, usage, "scale"},
-      {DrawEntry{.kind = "clock", .family = "systemSmall", .entry = JSON::object()}, failed,
-       "the request does not fit"},
-      {DrawEntry{.kind = "clock", .family = "systemSmall", .entry = JSON("word")}, failed, "the request does not fit"},
+      {DrawEntry{.kind = "clock", .family = "systemSmall", .entry = JSON::object()}, failed, "does not fit"},
+      {DrawEntry{.kind = "clock", .family = "systemSmall", .entry = JSON("word")}, failed, "does not fit"},
       {DrawEntry{.kind = "clock", .family = "systemSmall", .entry = undrawable}, failed, "no such hour"},
   };
   for (const auto& row : rows) {
@@ -153,6 +155,11 @@ TEST(ExtensionService, SaysWhyItDoesNotAnswer) {
     EXPECT_EQ(failure->reason, row.reason) << row.message;
     EXPECT_NE(failure->message.find(row.message), std::string::npos) << failure->message;
   }
+}
+
+TEST(ExtensionService, PerformsIntents) {
+  EXPECT_TRUE(std::holds_alternative<messages::Done>(
+      answered(messages::PerformIntent{.intent = "Wind", .parameters = {{"turns", 3}}})));
 }
 
 TEST(ExtensionService, RefusesAWorldThatIsNone) {
