@@ -1,3 +1,4 @@
+find_package(GTest REQUIRED)
 include(GoogleTest)
 
 # mirune_tests(NAME SOURCES file... LINK target...)
