@@ -58,13 +58,13 @@ Reply ExtensionService::answer(const messages::Envelope& envelope, const ReportP
   }
 }
 
-Reply ExtensionService::answer(const messages::DescribeCatalogue&, const uikit::Platform& platform) {
+Reply ExtensionService::answer(const messages::DescribeCatalogue&, const uikit::Platform& platform) const {
   messages::Catalogue catalogue;
   for (const StaticConfiguration& widget : content_.widgets(platform)) catalogue.widgets.push_back(widget.describe());
   return catalogue;
 }
 
-Reply ExtensionService::answer(const messages::AskProvider& request, const uikit::Platform& platform) {
+Reply ExtensionService::answer(const messages::AskProvider& request, const uikit::Platform& platform) const {
   const auto widget = widgetNamed(content_.widgets(platform), request.kind);
   if (!widget) return widget.error();
   return widget->entries(platform, request.operation);
@@ -92,12 +92,12 @@ Reply ExtensionService::answer(const messages::DrawSheet& request, const uikit::
   return messages::Picture{.bytes = pictureOf(sheet, request.format, request.scale, platform.now, renderer())};
 }
 
-Reply ExtensionService::answer(const messages::PerformIntent& request, const uikit::Platform& platform) {
+Reply ExtensionService::answer(const messages::PerformIntent& request, const uikit::Platform& platform) const {
   if (content_.perform(request.intent, request.parameters, platform)) return messages::Done{};
   return usage("action '" + request.intent + "' is unknown");
 }
 
-Reply ExtensionService::answer(const messages::DiagnoseContainer&, const uikit::Platform& platform) {
+Reply ExtensionService::answer(const messages::DiagnoseContainer&, const uikit::Platform& platform) const {
   return content_.diagnose(platform);
 }
 

@@ -31,12 +31,12 @@ class ExtensionService {
   messages::Reply answer(const messages::Envelope& envelope, const ReportProgress& report = {});
 
  private:
-  messages::Reply answer(const messages::DescribeCatalogue& request, const uikit::Platform& platform);
-  messages::Reply answer(const messages::AskProvider& request, const uikit::Platform& platform);
+  messages::Reply answer(const messages::DescribeCatalogue& request, const uikit::Platform& platform) const;
+  messages::Reply answer(const messages::AskProvider& request, const uikit::Platform& platform) const;
   messages::Reply answer(const messages::DrawEntry& request, const uikit::Platform& platform);
   messages::Reply answer(const messages::DrawSheet& request, const uikit::Platform& platform);
-  messages::Reply answer(const messages::PerformIntent& request, const uikit::Platform& platform);
-  messages::Reply answer(const messages::DiagnoseContainer& request, const uikit::Platform& platform);
+  messages::Reply answer(const messages::PerformIntent& request, const uikit::Platform& platform) const;
+  messages::Reply answer(const messages::DiagnoseContainer& request, const uikit::Platform& platform) const;
 
   /// Made when something is first drawn: a process that only builds timelines needs no fonts.
   const rendering::Renderer& renderer();
