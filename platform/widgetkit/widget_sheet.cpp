@@ -19,6 +19,8 @@ constexpr double gapBetweenPictures = 20;
 constexpr double gapBetweenKinds = 44;
 constexpr double titleHeight = 28;
 constexpr double captionHeight = 22;
+/// So that the name of a family has room below its picture.
+constexpr double narrowestColumn = 76;
 
 constexpr uikit::RGBA lightGround{.red = 0.90, .green = 0.91, .blue = 0.94};
 constexpr uikit::RGBA darkGround{.red = 0.07, .green = 0.07, .blue = 0.09};
@@ -28,9 +30,11 @@ struct Block {
   std::string name = {};
   std::vector<std::pair<std::string, Scene>> pictures = {};
 
+  static double columnWidth(const Scene& scene) { return std::max(scene.size.width, narrowestColumn); }
+
   double width() const {
     double sum = -gapBetweenPictures;
-    for (const auto& [family, scene] : pictures) sum += scene.size.width + gapBetweenPictures;
+    for (const auto& [family, scene] : pictures) sum += columnWidth(scene) + gapBetweenPictures;
     return sum;
   }
   double height() const {
@@ -53,11 +57,10 @@ class SheetBuilder {
     double x = x_;
     for (const auto& [family, scene] : block.pictures) {
       sheet_.tiles.push_back({.origin = {.x = x, .y = y_ + titleHeight}, .scene = scene});
-      // Names of narrow families reach into the gap behind them.
-      const double captionWidth = std::max(scene.size.width + gapBetweenPictures - 4, 96.0);
-      addText(family, system(9), {.x = x, .y = y_ + titleHeight + scene.size.height + 5},
-              {captionWidth, captionHeight});
-      x += std::max(scene.size.width, 96.0 - gapBetweenPictures) + gapBetweenPictures;
+      const double step = Block::columnWidth(scene) + gapBetweenPictures;
+      // Long names reach into the gap behind a narrow picture.
+      addText(family, system(9), {.x = x, .y = y_ + titleHeight + scene.size.height + 5}, {step - 4, captionHeight});
+      x += step;
     }
     right_ = std::max(right_, x - gapBetweenPictures);
     x_ = x - gapBetweenPictures + gapBetweenKinds;
