@@ -2,8 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <nlohmann/json.hpp>
+
 #include "foundation/iso8601.hpp"
-#include "support/recorded_cases.hpp"
 
 namespace planner {
 
@@ -40,29 +41,6 @@ void decode(JSONValue value, Item& item) {
                            required("allday", item.allday), ifPresent("colorHex", item.colorHex));
 }
 
-nlohmann::json seconds(foundation::Date date) {
-  return foundation::secondOf(date).time_since_epoch().count();
-}
-
-nlohmann::json recorded(const Days& days) {
-  nlohmann::json json = nlohmann::json::object();
-  for (const auto& [key, items] : days) {
-    nlohmann::json& list = json[key] = nlohmann::json::array();
-    for (const Item& item : items) {
-      list.push_back({{"type", static_cast<int>(item.type)},
-                      {"id", item.id},
-                      {"title", item.title},
-                      {"isOn", item.isOn},
-                      {"calid", item.calid},
-                      {"starttime", seconds(item.starttime)},
-                      {"endtime", seconds(item.endtime)},
-                      {"allday", item.allday},
-                      {"colorHex", item.colorHex ? nlohmann::json(*item.colorHex) : nlohmann::json()}});
-    }
-  }
-  return json;
-}
-
 }  // namespace planner
 
 namespace foundation {
@@ -93,15 +71,6 @@ std::string repeated(std::string_view text, std::size_t count) {
 
 std::string nested(std::size_t depth) {
   return repeated("[", depth) + repeated("]", depth);
-}
-
-TEST(JSONDecoder, DecodesTheRecordedItemFiles) {
-  for (const auto& row : support::recordedCases("platform/items.json")) {
-    const auto file = row["file"].get<std::string>();
-    const auto days = decodeJSON<Days>(file);
-    EXPECT_EQ(days ? planner::recorded(*days) : nlohmann::json(), row["days"]) << file << "\n"
-                                                                               << (days ? "" : days.error().message());
-  }
 }
 
 TEST(JSONDecoder, SaysWhereATextDoesNotFit) {
