@@ -227,5 +227,24 @@ TEST(TaskWidget, StaysWithinItsBoundsOnEveryScreen) {
   }
 }
 
+TEST(TaskWidgetView, HasPlainRowsWhereTheSystemRunsNoActions) {
+  auto platform = platformAt({}, "");
+  for (const int version : {15, 16}) {
+    platform.systemVersion = version;
+    const auto scene = sceneOfWidget(entryOf(4), WidgetFamily::systemSmall, platform);
+    const auto boxes = having(drawnBy(scene), "draw", "shape");
+    ASSERT_EQ(boxes.size(), 3U) << version;
+    for (const auto& box : boxes) {
+      const json outline = {{"cornerRadius", 2.5}, {"opacity", 0.7}};
+      EXPECT_EQ(part(box, outline), outline);
+      EXPECT_EQ(box.at("frame").at(2), 10);
+      EXPECT_EQ(box.at("stroke").at("width"), 1);
+    }
+    const json font = {{"size", 14}, {"weight", "light"}, {"design", "default"}};
+    EXPECT_EQ(part(having(drawnBy(scene), "text", "item 1").at(0), font), font);
+    for (const auto& item : rendering::jsonOf(scene.meaning)) EXPECT_EQ(item.at("role"), "text");
+  }
+}
+
 }  // namespace
 }  // namespace mirune
