@@ -1,38 +1,16 @@
 #include "foundation/calendar.hpp"
 
-#include <absl/time/civil_time.h>
-
 #include <cstdio>
 #include <limits>
 
 #include "foundation/calendar_system.hpp"
 #include "foundation/gregorian_days.hpp"
+#include "foundation/wall_clock.hpp"
 
 namespace foundation {
 namespace {
 
 using std::chrono::seconds;
-using std::chrono::sys_days;
-using std::chrono::sys_seconds;
-
-const absl::CivilSecond civilEpoch(1970, 1, 1);
-
-absl::CivilSecond civilSecond(Date date, const TimeZone& zone) {
-  return absl::ToCivilSecond(absl::FromUnixSeconds(secondOf(date).time_since_epoch().count()), zone.rules());
-}
-
-/// The local time as if it were UTC.
-sys_seconds wallClock(Date date, const TimeZone& zone) {
-  return sys_seconds(seconds(civilSecond(date, zone) - civilEpoch));
-}
-
-CivilDay localDay(Date date, const TimeZone& zone) {
-  return civilDay(std::chrono::floor<std::chrono::days>(wallClock(date, zone)).time_since_epoch().count());
-}
-
-Date toDate(absl::Time time) {
-  return Date(seconds(absl::ToUnixSeconds(time)));
-}
 
 int offsetAt(absl::Time time, const TimeZone& zone) {
   return zone.rules().At(time).offset;
@@ -78,9 +56,7 @@ Calendar Calendar::iso8601(TimeZone timeZone) {
 }
 
 Date Calendar::startOfDay(Date date) const {
-  const absl::CivilDay day(civilSecond(date, timeZone_));
-  const absl::TimeZone::TimeInfo midnight = timeZone_.rules().At(absl::CivilSecond(day));
-  return toDate(midnight.kind == absl::TimeZone::TimeInfo::SKIPPED ? midnight.trans : midnight.pre);
+  return firstInstant(localDay(date, timeZone_), timeZone_);
 }
 
 std::optional<Date> Calendar::dateByAdding(CalendarComponent component, std::int64_t amount, Date date) const {
@@ -114,11 +90,13 @@ std::int64_t Calendar::component(CalendarComponent component, Date date) const {
       return civil.minute();
     case CalendarComponent::second:
       return civil.second();
+    case CalendarComponent::weekday:
+      return weekdayOf(localDay(date, timeZone_));
     default:
       break;
   }
   const bool isYear = component == CalendarComponent::year;
-  const std::int64_t gregorian = gregorianComponent(component, localDay(date, timeZone_));
+  const std::int64_t gregorian = gregorianComponent(component, civilDay(localDay(date, timeZone_)));
   if (hasGregorianDays(identifier_) && !(isYear && identifier_ == CalendarIdentifier::japanese)) {
     if (!isYear) return gregorian;
     if (identifier_ == CalendarIdentifier::buddhist) return gregorian + buddhistEraOffset;
@@ -132,12 +110,12 @@ std::optional<std::int64_t> Calendar::ordinalityOfDayInYear(Date date) const {
   if (!hasGregorianDays(identifier_)) {
     return calendarField(identifier_, CalendarField::dayOfYear, wallClock(date, timeZone_));
   }
-  const CivilDay day = localDay(date, timeZone_);
-  return daysSince1970(day) - daysSince1970({.year = day.year, .month = 1, .day = 1}) + 1;
+  const std::int64_t day = localDay(date, timeZone_);
+  return day - daysSince1970({.year = civilDay(day).year, .month = 1, .day = 1}) + 1;
 }
 
 std::string dayKey(Date date, const TimeZone& timeZone) {
-  const CivilDay day = localDay(date, timeZone);
+  const CivilDay day = civilDay(localDay(date, timeZone));
   char text[48] = {};
   std::snprintf(text, sizeof text, "%04lld/%02d/%02d", static_cast<long long>(day.year), day.month, day.day);
   return text;

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -29,7 +31,27 @@ enum class CalendarIdentifier {
 };
 
 /// A unit of the calendar.
-enum class CalendarComponent { year, month, day, hour, minute, second };
+enum class CalendarComponent { year, month, weekday, day, hour, minute, second };
+
+/// A stretch of the calendar with a beginning and an end.
+enum class CalendarPeriod { month, weekOfYear };
+
+/// From `start` on, up to and without `end`.
+struct DateInterval {
+  Date start = {};
+  Date end = {};
+
+  bool contains(Date date) const { return start <= date && date < end; }
+  friend bool operator==(const DateInterval&, const DateInterval&) = default;
+};
+
+/// What dates are looked for by: a time of day and, if given, a weekday (1 for Sunday to 7).
+struct MatchingComponents {
+  std::optional<int> weekday = std::nullopt;
+  int hour = 0;
+  int minute = 0;
+  int second = 0;
+};
 
 /// Turns instants into wall clocks and back, in one locale's calendar system and one time zone.
 ///
@@ -59,7 +81,8 @@ class Calendar {
   /// `component` is day; the other units come when a widget needs them.
   std::optional<Date> dateByAdding(CalendarComponent component, std::int64_t amount, Date date) const;
 
-  /// The value of a unit at that moment ("day" is the day of the month), in this calendar system.
+  /// The value of a unit at that moment ("day" is the day of the month, "weekday" counts from 1 for Sunday), in this
+  /// calendar system.
   std::int64_t component(CalendarComponent component, Date date) const;
 
   /// The place of the day in its year, counting from 1. Nothing where the calendar system has no answer.
@@ -69,6 +92,22 @@ class Calendar {
   /// moment after the gap where that is an hour or more; a shorter gap gives the same time on the next day. Nothing for
   /// what is no time of day (hour 24, minute 60, anything negative).
   std::optional<Date> dateBySettingHour(int hour, int minute, int second, Date of) const;
+
+  /// The month or the calendar week in which the moment lies: from the first instant of its first day to that of the
+  /// next one's. Weeks begin with the first weekday. Nothing where the calendar system has no answer.
+  std::optional<DateInterval> dateInterval(CalendarPeriod period, Date date) const;
+
+  /// The dates after a moment that match, in order, until `visit` answers false: one a day at most, of two the first.
+  /// A time of day that a clock change skips gives what dateBySettingHour answers. What is no time of day matches
+  /// nothing.
+  void enumerateDates(Date startingAfter, const MatchingComponents& matching,
+                      const std::function<bool(Date)>& visit) const;
+
+  /// The day with which weeks begin where the locale is at home: 1 for Sunday to 7 for Saturday.
+  int firstWeekday() const;
+
+  /// The shortest names of the weekdays in the locale's language, Sunday first: "S", "M", "T", …
+  std::array<std::string, 7> veryShortWeekdaySymbols() const;
 
  private:
   CalendarIdentifier identifier_ = CalendarIdentifier::gregorian;

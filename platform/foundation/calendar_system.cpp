@@ -108,6 +108,8 @@ FieldRow rowOf(CalendarField field) {
       return {UCAL_DATE, 1};
     case CalendarField::dayOfYear:
       return {UCAL_DAY_OF_YEAR, 1};
+    case CalendarField::lengthOfMonth:
+      return {UCAL_DATE, 1};
   }
   __builtin_unreachable();
 }
@@ -142,7 +144,9 @@ std::optional<std::int64_t> calendarField(CalendarIdentifier identifier, Calenda
   UErrorCode status = U_ZERO_ERROR;
   ucal_setMillis(calendar.get(), static_cast<UDate>(wallClock.time_since_epoch().count()) * 1000, &status);
   const FieldRow row = rowOf(field);
-  const std::int32_t value = ucal_get(calendar.get(), row.field, &status);
+  const std::int32_t value = field == CalendarField::lengthOfMonth
+                                 ? ucal_getLimit(calendar.get(), row.field, UCAL_ACTUAL_MAXIMUM, &status)
+                                 : ucal_get(calendar.get(), row.field, &status);
   if (U_FAILURE(status)) return std::nullopt;
   return value + 1 - row.first;
 }

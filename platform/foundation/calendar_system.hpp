@@ -15,7 +15,7 @@ CalendarIdentifier calendarIdentifierOf(const Locale& locale);
 bool hasGregorianDays(CalendarIdentifier identifier);
 
 /// What a foreign calendar system knows of a day.
-enum class CalendarField { year, month, dayOfMonth, dayOfYear };
+enum class CalendarField { year, month, dayOfMonth, dayOfYear, lengthOfMonth };
 
 /// Asks ICU; `wallClock` is the local time as if it were GMT. Nothing where ICU has no answer.
 std::optional<std::int64_t> calendarField(CalendarIdentifier identifier, CalendarField field,

@@ -57,4 +57,10 @@ CivilDay civilDay(std::int64_t days) {
   return fromMarchYear({era * 400 + yearOfEra, dayOfYear});
 }
 
+int weekdayOf(std::int64_t days) {
+  constexpr std::int64_t sundaysOffset = 4;  // 1970-01-01 was a Thursday, four days after a Sunday
+  const std::int64_t afterSunday = (days + sundaysOffset) % 7;
+  return static_cast<int>((afterSunday + 7) % 7) + 1;
+}
+
 }  // namespace foundation

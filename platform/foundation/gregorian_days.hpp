@@ -18,4 +18,7 @@ std::int64_t daysSince1970(const CivilDay& day);
 /// The day that so many days lie before.
 CivilDay civilDay(std::int64_t daysSince1970);
 
+/// 1 for Sunday to 7 for Saturday.
+int weekdayOf(std::int64_t daysSince1970);
+
 }  // namespace foundation
