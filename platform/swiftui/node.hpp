@@ -93,6 +93,9 @@ struct GaugeNode {
   View label;
   View currentValueLabel;
 };
+struct ViewThatFitsNode {
+  std::vector<View> candidates = {};
+};
 struct GeometryReaderNode {
   std::function<View(Size)> content = nullptr;
 };
@@ -100,7 +103,7 @@ struct GeometryReaderNode {
 struct Node {
   std::variant<EmptyNode, GroupNode, ComponentNode, TextNode, ImageNode, ShapeNode, SpacerNode, StackNode, ZStackNode,
                PaddingNode, FixedFrameNode, FlexibleFrameNode, FixedSizeNode, LayoutPriorityNode, OffsetNode, LayerNode,
-               ContainerBackgroundNode, EnvironmentNode, ToggleNode, GaugeNode, GeometryReaderNode>
+               ContainerBackgroundNode, EnvironmentNode, ToggleNode, GaugeNode, ViewThatFitsNode, GeometryReaderNode>
       value = EmptyNode{};
 };
 

@@ -37,6 +37,7 @@ std::string nameOf(const PlacedElement& placed) {
           [](const ControlElement& control) {
             return std::string(std::holds_alternative<ToggleMeaning>(control.control) ? "toggle" : "gauge");
           },
+          [](const ViewThatFitsElement&) { return std::string("viewThatFits"); },
           [](const GeometryReaderElement&) { return std::string("geometryReader"); },
       },
       placed.element->value);

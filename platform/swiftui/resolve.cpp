@@ -120,6 +120,9 @@ class Resolver {
         {.value = ControlElement{.control = GaugeMeaning{.value = node.options.value, .total = node.options.total}},
          .children = {single(look, environment)}});
   }
+  void append(const ViewThatFitsNode& node, const EnvironmentValues& environment, Elements& out) {
+    out.push_back({.value = ViewThatFitsElement{}, .children = all(node.candidates, environment)});
+  }
   void append(const GeometryReaderNode& node, const EnvironmentValues& environment, Elements& out) {
     out.push_back({.value = GeometryReaderElement{.content = [content = node.content, environment](Size size) {
                      return Resolver().single(content(size), environment);

@@ -124,6 +124,9 @@ View gauge(GaugeOptions options, View label, View currentValueLabel) {
   return View(Node{
       GaugeNode{.options = options, .label = std::move(label), .currentValueLabel = std::move(currentValueLabel)}});
 }
+View viewThatFits(std::vector<View> candidates) {
+  return View(Node{ViewThatFitsNode{.candidates = std::move(candidates)}});
+}
 View geometryReader(std::function<View(Size)> content) {
   return View(Node{GeometryReaderNode{.content = std::move(content)}});
 }

@@ -170,6 +170,9 @@ struct GaugeOptions {
 /// The label stands in the ring's opening, the value's label in its middle. A reader meets both as one.
 View gauge(GaugeOptions options, View label, View currentValueLabel);
 
+/// The first of these whose ideal size fits into what is offered; the last one where none does.
+View viewThatFits(std::vector<View> candidates);
+
 /// What is made for the size that is offered, once that is known; placed at the top leading corner.
 View geometryReader(std::function<View(Size)> content);
 
