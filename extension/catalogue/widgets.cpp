@@ -2,7 +2,9 @@
 
 #include "catalogue/forced_theme.hpp"
 #include "catalogue/not_drawn_yet.hpp"
+#include "lists/mirune_widgets_entry_view.hpp"
 #include "lists/task_widget_view_wrapper.hpp"
+#include "lists/thoughts.hpp"
 #include "timelines/providers.hpp"
 
 namespace mirune {
@@ -92,7 +94,10 @@ StaticConfiguration Mirune_Widgets4::body(const Platform& platform) const {
 
 StaticConfiguration Mirune_Widgets::body(const Platform& platform) const {
   return finished(
-      {kind, Provider{}, [](const SimpleEntry&) { return themed(NotDrawnYet{.widget = "Quote of the Day"}); }},
+      {kind, Provider{},
+       [](const SimpleEntry& entry) {
+         return themed(Mirune_WidgetsEntryView{.entry = entry, .thoughts = thoughtTable()});
+       }},
       {WidgetFamily::systemMedium},
       {.shortName = "quote", .displayName = "Quote of the Day", .description = "Get daily inspirational quotes."},
       platform);
