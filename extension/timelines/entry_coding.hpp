@@ -4,6 +4,7 @@
 #include <type_traits>
 
 #include "foundation/json.hpp"
+#include "messages/shared_values.hpp"
 #include "timelines/display_color.hpp"
 #include "timelines/entries.hpp"
 
@@ -107,6 +108,11 @@ void to_json(foundation::JSON& json, const Record& record) {
   };
   std::apply([&](const auto&... field) { (write(field), ...); }, fieldsOf(std::type_identity<Record>()));
 }
+
+/// The same with the events that entries share in one place. They are told apart by where they lie, so all entries must
+/// be there while they are written.
+foundation::JSON jsonSharing(const EventEntry& entry, messages::SharedValues& shared);
+foundation::JSON jsonSharing(const TaskEventEntry& entry, messages::SharedValues& shared);
 
 template <CodedRecord Record>
 void from_json(const foundation::JSON& json, Record& record) {

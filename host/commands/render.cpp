@@ -65,7 +65,7 @@ struct Render {
       if (!timeline) return std::unexpected(timeline.error());
       const auto moments = dates(*timeline);
       if (!moments) return std::unexpected(moments.error());
-      if (const auto shown = shownEntry(*moments, moment)) return timeline->entries[*shown];
+      if (const auto shown = shownEntry(*moments, moment)) return timeline->wholeEntry(*shown);
     }
     return failed("the widget extension has no entry for " + kind);
   }

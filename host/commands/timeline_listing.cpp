@@ -48,6 +48,16 @@ std::string members(const JSON& entry) {
   return text;
 }
 
+/// A text whose lines but the first are moved to the right.
+std::string indented(const std::string& text, std::size_t blanks) {
+  std::string result;
+  for (const char c : text) {
+    result += c;
+    if (c == '\n') result.append(blanks, ' ');
+  }
+  return result;
+}
+
 std::string policyText(const JSON& policy, const foundation::TimeZone& timeZone) {
   if (policy.is_string()) return policy.get<std::string>();
   if (policy.is_object() && policy.contains("after")) return "after " + wallClock(policy["after"], timeZone);
@@ -58,7 +68,8 @@ std::string policyText(const JSON& policy, const foundation::TimeZone& timeZone)
 
 std::string timelineListing(const messages::Timeline& timeline, const foundation::TimeZone& timeZone) {
   std::string text;
-  for (const auto& entry : timeline.entries) {
+  for (std::size_t i = 0; i < timeline.entries.size(); ++i) {
+    const JSON entry = timeline.wholeEntry(i);
     const auto date = entry.is_object() ? entry.value("date", JSON()) : JSON();
     const auto rest = members(entry);
     text += wallClock(date, timeZone) + (rest.empty() ? "" : "  " + rest) + "\n";
@@ -67,8 +78,14 @@ std::string timelineListing(const messages::Timeline& timeline, const foundation
 }
 
 std::string timelineJSON(const messages::Timeline& timeline) {
-  const JSON json = {{"kind", timeline.kind}, {"policy", timeline.policy}, {"entries", timeline.entries}};
-  return json.dump(2) + "\n";
+  // Entry by entry: written out, those of a full day are far larger than what was sent.
+  std::string entries;
+  for (std::size_t i = 0; i < timeline.entries.size(); ++i) {
+    entries += (i == 0 ? "\n    " : ",\n    ") + indented(timeline.wholeEntry(i).dump(2), 4);
+  }
+  if (!entries.empty()) entries += "\n  ";
+  return "{\n  \"kind\": " + JSON(timeline.kind).dump() + ",\n  \"policy\": " + indented(timeline.policy.dump(2), 2) +
+         ",\n  \"entries\": [" + entries + "]\n}\n";
 }
 
 }  // namespace host

@@ -64,7 +64,9 @@ struct ToJSON {
     return {{"reply", catalogue}, {"widgets", std::move(widgets)}};
   }
   JSON operator()(const Timeline& reply) const {
-    return {{"reply", timeline}, {"kind", reply.kind}, {"policy", reply.policy}, {"entries", JSON(reply.entries)}};
+    JSON json = {{"reply", timeline}, {"kind", reply.kind}, {"policy", reply.policy}, {"entries", reply.entries}};
+    if (!reply.shared.empty()) json["shared"] = reply.shared;
+    return json;
   }
   JSON operator()(const Picture&) const { return {{"reply", picture}}; }
   JSON operator()(const Done&) const { return {{"reply", done}}; }
@@ -95,7 +97,8 @@ void from_json(const JSON& json, Reply& reply) {
   } else if (name == timeline) {
     reply = Timeline{.kind = field<std::string>(json, "kind"),
                      .policy = json.at("policy"),
-                     .entries = field<std::vector<JSON>>(json, "entries")};
+                     .entries = field<std::vector<JSON>>(json, "entries"),
+                     .shared = json.value("shared", std::vector<JSON>())};
   } else if (name == picture) {
     reply = Picture{};
   } else if (name == done) {

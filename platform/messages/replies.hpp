@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "foundation/json.hpp"
+#include "messages/shared_values.hpp"
 
 namespace messages {
 
@@ -30,6 +31,11 @@ struct Timeline {
   std::string kind = {};                       ///< the kind identifier
   foundation::JSON policy = "never";           ///< "atEnd", "never" or {"after": MOMENT}
   std::vector<foundation::JSON> entries = {};  ///< each with a "date": a MOMENT
+  std::vector<foundation::JSON> shared = {};   ///< values that entries refer to, see shared_values.hpp
+
+  /// An entry with its shared values in their places.
+  foundation::JSON wholeEntry(std::size_t index) const { return withSharedValues(entries[index], shared); }
+
   friend bool operator==(const Timeline&, const Timeline&) = default;
 };
 

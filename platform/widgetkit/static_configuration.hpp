@@ -67,8 +67,21 @@ class StaticConfiguration {
     if (operation == ProviderOperation::placeholder) return {.entries = {provider.placeholder(platform)}};
     if (operation == ProviderOperation::snapshot) return {.entries = {provider.snapshot(platform)}};
     const auto timeline = provider.timeline(platform);
-    return {
-        .kind = {}, .policy = timeline.policy.json(), .entries = {timeline.entries.begin(), timeline.entries.end()}};
+    messages::Timeline answer{.policy = timeline.policy.json()};
+    messages::SharedValues shared;
+    for (const auto& entry : timeline.entries) answer.entries.push_back(coded(entry, shared));
+    answer.shared = shared.take();
+    return answer;
+  }
+
+  /// Entries of which much is shared say how by jsonSharing(entry, shared).
+  template <class Entry>
+  static foundation::JSON coded(const Entry& entry, messages::SharedValues& shared) {
+    if constexpr (requires { jsonSharing(entry, shared); }) {
+      return jsonSharing(entry, shared);
+    } else {
+      return entry;
+    }
   }
 
   std::string kind_;

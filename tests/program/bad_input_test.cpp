@@ -176,6 +176,31 @@ TEST_F(BadInput, DrawsTitlesOfAnyKindAndLength) {
   }
 }
 
+TEST_F(BadInput, ShowsADayOf500Events) {
+  json events = json::array();
+  for (int count = 0; count < 500; ++count) {
+    const auto time = [](int minutes) {
+      const std::string text = std::to_string(100'000 + minutes / 60 * 1'000 + minutes % 60);
+      return "2026-11-21T" + text.substr(1, 2) + ":" + text.substr(4, 2) + ":00Z";
+    };
+    json event = item("event " + std::to_string(count));
+    event.update({{"type", 3}, {"starttime", time(count)}, {"endtime", time(count + 600)}});
+    events.push_back(std::move(event));
+  }
+  support::writeBytes(folder / "container/events.json", json{{day, events}}.dump());
+  for (const std::string kind : {"events", "combined"}) {
+    const auto result = ask("render " + kind + " systemMedium -o out.txt --at 2026-11-21T16:30:00Z");
+    EXPECT_EQ(result.complaints, std::vector<std::string>()) << kind;
+    // Those that end after 17:30 by the clocks of Berlin.
+    EXPECT_NE(support::readBytes(folder / "out.txt").find("event 391\n"), std::string::npos) << kind;
+    EXPECT_NE(support::readBytes(folder / "out.txt").find("+106 more\n"), std::string::npos) << kind;
+  }
+  const auto timeline = jsonOutput(ask("timeline events --json"));
+  EXPECT_EQ(timeline.at("entries").size(), 1U + 1'000U + 14U);
+  EXPECT_EQ(timeline.at("entries").at(0).at("data").size(), 500U);
+  EXPECT_EQ(timeline.at("entries").at(0).at("data").at(499).at("title"), "event 499");
+}
+
 TEST_F(BadInput, SaysSoWhereAnAnswerIsTooLargeToSend) {
   json many = json::array();
   for (int count = 0; count < 2400; ++count) many.push_back(item(std::string(2000, 'x')));
