@@ -52,7 +52,7 @@ std::optional<std::string> bytesOf(const OpenFile& file) {
 
 /// The name of the element that begins at the front of a text, without its prefix.
 std::string_view elementName(std::string_view text) {
-  text = text.substr(0, text.find_first_of(" \t\r\n/>"));
+  text = text.substr(0, text.find_first_of(" \t\r\n/<>"));
   return text.substr(text.rfind(':') + 1);
 }
 
@@ -62,8 +62,11 @@ bool isHarmless(std::string_view svg) {
   constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
   if (svg.starts_with(byteOrderMark)) svg.remove_prefix(byteOrderMark.size());
   svg.remove_prefix(std::min(svg.find_first_not_of(" \t\r\n"), svg.size()));
-  // Compressed files and those of two bytes to the letter hide what they hold.
+  // Compressed files and other encodings hide what they hold.
   if (!svg.starts_with('<') || svg.contains('\0')) return false;
+  const auto declaration = svg.starts_with("<?") ? svg.substr(0, svg.find("?>")) : std::string_view();
+  const bool isUTF8 = declaration.contains("UTF-8") || declaration.contains("utf-8");
+  if (declaration.contains("encoding") && !isUTF8) return false;
   constexpr std::array<std::string_view, 9> refused = {"!ENTITY", "filter",  "image", "include", "marker",
                                                        "mask",    "pattern", "text",  "use"};
   for (auto at = svg.find('<'); at != std::string_view::npos; at = svg.find('<', at + 1)) {

@@ -44,6 +44,9 @@ constexpr swiftui::Size none{};
 
 TEST_F(IconFolderTest, StandsInForMissingAssetsOnly) {
   writeBytes(icons_ / "own.svg", svgOf(greenSquare, 30));
+  writeBytes(icons_ / "exported.svg",
+             "\xEF\xBB\xBF<?xml version='1.0' encoding='utf-8'?>\n<!-- a cat -->" + svgOf(greenSquare, 50));
+  EXPECT_EQ(sizeOf("exported"), (swiftui::Size{50, 50}));
   writeBytes(icons_ / "photo@3x.png", flatFile(30, 15, {.red = 1}));
   writeBytes(icons_ / "photo~dark.png", flatFile(7, 7, {.red = 1}));
   EXPECT_EQ(sizeOf("own"), (swiftui::Size{10, 10}));
@@ -88,6 +91,9 @@ TEST_F(IconFolderTest, DrawsNothingForWhatIsNoPicture) {
       {"a.svg", "\x1f\x8b" + svgOf(greenSquare)},
       {"a.svg", svgOf(greenSquare + R"(<image href="dot.svg" width="9" height="9"/>)")},
       {"a.svg", svgOf(greenSquare + R"(<x:use xmlns:x="http://www.w3.org/2000/svg" xlink:href="#a"/>)")},
+      {"a.svg", R"(<?xml version="1.0" encoding="UTF-7"?>)" + svgOf(greenSquare + "+ADw-use/+AD4-")},
+      {"a.svg", svgOf(greenSquare + "<a:" + std::string(300, 'b') + ":use/>")},
+      {"a.svg", std::string(60'000, '<')},
       {"a.svg", R"(<!DOCTYPE svg [<!ENTITY a "aaaa">]>)" + svgOf("&a;" + greenSquare)},
       {"a.png", ""},
       {"a.png", "no picture"},
