@@ -101,6 +101,10 @@ Reply ExtensionService::answer(const messages::DiagnoseContainer&, const uikit::
   return content_.diagnose(platform);
 }
 
+Reply ExtensionService::answer(const messages::NameDevice& request, const uikit::Platform&) const {
+  return messages::DeviceName{.name = content_.nameDevice(request.identifier)};
+}
+
 const rendering::Renderer& ExtensionService::renderer() {
   if (!renderer_) renderer_.emplace(resources_.folder);
   return *renderer_;

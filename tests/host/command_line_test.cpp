@@ -100,7 +100,8 @@ TEST_F(CommandLine, HelpsOnStandardOutput) {
   EXPECT_EQ(help.exitCode, 0);
   EXPECT_EQ(help.error, "");
   EXPECT_EQ(help.output, run("--help").output);
-  for (const char* command : {"gallery", "timeline", "placeholder", "snapshot", "render", "tap", "demo", "doctor"}) {
+  for (const char* command :
+       {"gallery", "timeline", "placeholder", "snapshot", "render", "tap", "demo", "doctor", "device-name"}) {
     EXPECT_NE(help.output.find("\n  " + std::string(command) + " "), std::string::npos) << help.output;
     EXPECT_NE(run(command + std::string(" --help")).output.find("mirune " + std::string(command)), std::string::npos);
   }

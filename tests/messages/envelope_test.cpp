@@ -30,6 +30,9 @@ TEST(Envelope, SurvivesTheWire) {
       DrawEntry{.format = PictureFormat::json},
       PerformIntent{.intent = "TaskIntent", .parameters = {{"id", "é\"/"}, {"date", nullptr}}},
       DiagnoseContainer{},
+      NameDevice{},
+      NameDevice{.identifier = ""},
+      NameDevice{.identifier = "iPhone9,4"},
   };
   for (const Request& request : requests) {
     const Envelope envelope = {.world = world, .request = request};
@@ -93,6 +96,7 @@ TEST(Reply, SurvivesTheWireButForThePicturesBytes) {
       Timeline{.entries = {JSON::array({1})}},
       Picture{},
       Done{},
+      DeviceName{.name = "iPhone 7 Plus"},
       Diagnosis{},
       Diagnosis{.hasContainer = true,
                 .files = {{.file = "a.json",

@@ -55,7 +55,9 @@ inline ExtensionService clockService() {
       {.widgets = [](const uikit::Platform& platform) { return ClockBundle().body(platform); },
        .perform = [](const std::string& intent, const foundation::JSON& parameters,
                      const uikit::Platform&) { return intent == "Wind" && parameters.at("turns").get<int>() > 0; },
-       .diagnose = [](const uikit::Platform&) { return messages::Diagnosis{}; }},
+       .diagnose = [](const uikit::Platform&) { return messages::Diagnosis{}; },
+       .nameDevice =
+           [](const std::optional<std::string>& identifier) { return identifier.value_or("this") + " clock"; }},
       {.folder = "no resources"});
 }
 

@@ -162,6 +162,14 @@ TEST(ExtensionService, PerformsIntents) {
       answered(messages::PerformIntent{.intent = "Wind", .parameters = {{"turns", 3}}})));
 }
 
+TEST(ExtensionService, NamesDevices) {
+  const auto named = [](const messages::NameDevice& request) {
+    return std::get<messages::DeviceName>(answered(request)).name;
+  };
+  EXPECT_EQ(named({}), "this clock");
+  EXPECT_EQ(named({.identifier = "old"}), "old clock");
+}
+
 TEST(ExtensionService, RefusesAWorldThatIsNone) {
   World nowhere = world;
   nowhere.timeZone = "Middle/Earth";
