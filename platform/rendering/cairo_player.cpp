@@ -99,7 +99,8 @@ void CairoPlayer::paint(const DrawText& draw) const {
 }
 
 void CairoPlayer::paint(const DrawImage& draw) const {
-  assets_.draw(cairo_, {.name = draw.name, .isSymbol = draw.isSymbol, .colorScheme = draw.colorScheme},
+  assets_.draw(cairo_,
+               {.name = draw.name, .isSymbol = draw.isSymbol, .colorScheme = draw.colorScheme, .folder = draw.folder},
                {.frame = snapped(draw.frame), .tint = draw.tint, .opacity = draw.opacity});
 }
 

@@ -56,13 +56,14 @@ void record(const PlacedElement& placed, DisplayList& list) {
                    list.emplace_back(drawText(placed, text));
                  },
                  [&](const ImageElement& image) {
-                   const bool isInvisible = image.isSymbol ? !image.paint.isVisible() : image.paint.opacity <= 0;
+                   const bool isInvisible = image.isTemplate() ? !image.paint.isVisible() : image.paint.opacity <= 0;
                    if (isInvisible || isEmpty(placed.frame)) return;
                    list.emplace_back(DrawImage{
                        .name = image.name,
                        .isSymbol = image.isSymbol,
+                       .folder = image.options.folder,
                        .colorScheme = image.paint.colorScheme,
-                       .tint = image.isSymbol ? std::optional(image.paint.color) : std::nullopt,
+                       .tint = image.isTemplate() ? std::optional(image.paint.color) : std::nullopt,
                        .frame = placed.frame,
                        .opacity = image.paint.opacity,
                    });

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <variant>
@@ -37,6 +38,7 @@ struct DrawText {
 struct DrawImage {
   std::string name = {};
   bool isSymbol = false;
+  std::filesystem::path folder = {};  ///< where else its picture may be; not printed
   uikit::ColorScheme colorScheme = uikit::ColorScheme::light;
   std::optional<uikit::RGBA> tint = std::nullopt;  ///< absent: in its own colours
   swiftui::Rect frame = {};

@@ -71,7 +71,10 @@ swiftui::FontMetrics Renderer::fontMetrics(const swiftui::Font& font) const {
 }
 
 swiftui::Size Renderer::imageSize(const swiftui::ImageElement& image) const {
-  return assets_->size({.name = image.name, .isSymbol = image.isSymbol, .colorScheme = image.paint.colorScheme});
+  return assets_->size({.name = image.name,
+                        .isSymbol = image.isSymbol,
+                        .colorScheme = image.paint.colorScheme,
+                        .folder = image.options.folder});
 }
 
 std::string Renderer::png(const Composition& composition, double scale) const {

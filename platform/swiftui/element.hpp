@@ -63,7 +63,10 @@ struct ImageElement {
   std::string name = {};
   bool isSymbol = false;
   bool isResizable = false;
+  ImageOptions options = {};
   Paint paint = {};
+
+  bool isTemplate() const { return options.renderingMode == RenderingMode::asTemplate; }
 };
 struct ShapeElement {
   Shape shape = {};

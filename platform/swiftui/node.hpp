@@ -21,8 +21,9 @@ struct TextNode {
 /// Where an image's picture comes from and how it is drawn.
 struct ImageNode {
   std::string name = {};
-  bool isSymbol = false;  ///< of the system's symbols: a template, drawn in the foreground colour
+  bool isSymbol = false;  ///< of the system's symbols, which are always templates
   bool isResizable = false;
+  ImageOptions options = {};
 };
 /// What is painted of a shape.
 struct ShapeNode {

@@ -51,6 +51,7 @@ class Resolver {
     out.push_back({.value = ImageElement{.name = node.name,
                                          .isSymbol = node.isSymbol,
                                          .isResizable = node.isResizable,
+                                         .options = node.options,
                                          .paint = paint(environment)}});
   }
   void append(const ShapeNode& node, const EnvironmentValues& environment, Elements& out) {

@@ -84,14 +84,17 @@ View group(std::vector<View> children) {
 View text(std::string content) {
   return View(Node{TextNode{.content = std::move(content)}});
 }
-View image(std::string name) {
-  return View(Node{ImageNode{.name = std::move(name)}});
+View image(std::string name, ImageOptions options) {
+  return View(Node{ImageNode{.name = std::move(name), .options = std::move(options)}});
 }
-View resizableImage(std::string name) {
-  return View(Node{ImageNode{.name = std::move(name), .isSymbol = false, .isResizable = true}});
+View resizableImage(std::string name, ImageOptions options) {
+  return View(Node{ImageNode{.name = std::move(name), .isResizable = true, .options = std::move(options)}});
 }
 View resizableSymbol(std::string name) {
-  return View(Node{ImageNode{.name = std::move(name), .isSymbol = true, .isResizable = true}});
+  return View(Node{ImageNode{.name = std::move(name),
+                             .isSymbol = true,
+                             .isResizable = true,
+                             .options = {.renderingMode = RenderingMode::asTemplate}}});
 }
 View filled(Shape shape) {
   return View(Node{ShapeNode{.shape = shape}});

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <concepts>
+#include <filesystem>
 #include <functional>
 #include <initializer_list>
 #include <memory>
@@ -123,10 +124,24 @@ inline View when(bool condition, const View& view) {
 
 View text(std::string content);
 
+/// How a picture is drawn: as it is, or as a stencil that is filled with the foreground colour.
+enum class RenderingMode { original, asTemplate };
+
+struct ImageOptions {
+  RenderingMode renderingMode = RenderingMode::original;
+  /// Where a picture is looked for that is not one of the extension's assets; empty for nowhere. Its files are somebody
+  /// else's and may change at any time: see rendering/icon_folder.hpp.
+  std::filesystem::path folder = {};
+};
+
 /// A picture of the extension's assets, by name, at its own size. One without a file of that name draws nothing.
-View image(std::string name);
+///
+///   image("calendar_today")                                                in its own colours
+///   resizableImage("moodbgnew", {.renderingMode = RenderingMode::asTemplate}).foregroundColor(pink)
+///   resizableImage(mood.icon, {.folder = container / "icons"})             an asset, else container/icons/NAME.svg
+View image(std::string name, ImageOptions options = {});
 /// A picture that takes the size it is offered, stretched.
-View resizableImage(std::string name);
+View resizableImage(std::string name, ImageOptions options = {});
 /// A system symbol, stretched to the size it is offered and drawn in the foreground colour.
 View resizableSymbol(std::string name);
 

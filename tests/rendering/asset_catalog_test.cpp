@@ -2,9 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "pixels.hpp"
-#include "rendering/cairo_handles.hpp"
-#include "rendering/png_encoder.hpp"
+#include "flat_file.hpp"
 #include "support/temporary_folder.hpp"
 
 namespace rendering {
@@ -13,15 +11,6 @@ namespace {
 using uikit::ColorScheme;
 using uikit::RGBA;
 
-/// A PNG file of one colour.
-std::string flatFile(int width, int height, RGBA color) {
-  const SurfaceHandle surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height));
-  const CairoHandle cairo(cairo_create(surface.get()));
-  cairo_set_source_rgba(cairo.get(), color.red, color.green, color.blue, color.alpha);
-  cairo_paint(cairo.get());
-  return encodePNG(surface.get());
-}
-
 class AssetCatalogTest : public testing::Test {
  protected:
   AssetCatalogTest() {
@@ -29,6 +18,8 @@ class AssetCatalogTest : public testing::Test {
     support::writeBytes(folder_ / "images/leaf~dark@3x.png", flatFile(60, 30, {.blue = 1}));
     support::writeBytes(folder_ / "images/dot.png", flatFile(4, 4, {.red = 1}));
     support::writeBytes(folder_ / "images/broken@3x.png", "no picture");
+    support::writeBytes(folder_ / "images/kite.svg", svg(R"(width="24" height="12")", "#f00"));
+    support::writeBytes(folder_ / "images/kite~dark.svg", svg(R"(viewBox="3 4 48 36")", "#00f"));
     support::writeBytes(
         folder_ / "symbols/bar.svg",
         R"(<svg xmlns="http://www.w3.org/2000/svg" width="10" height="10"><rect width="5" height="10"/></svg>)");
@@ -36,13 +27,13 @@ class AssetCatalogTest : public testing::Test {
     support::writeBytes(folder_ / "secret.png", flatFile(4, 4, {.red = 1}));
   }
 
-  Pixels drawn(const AssetKey& key, const AssetCatalog::Drawing& drawing) const {
-    const SurfaceHandle surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 20, 20));
-    const CairoHandle cairo(cairo_create(surface.get()));
-    catalog_.draw(cairo.get(), key, drawing);
-    EXPECT_EQ(cairo_status(cairo.get()), CAIRO_STATUS_SUCCESS);
-    return decoded(encodePNG(surface.get()));
+  /// Its left half is filled.
+  static std::string svg(const std::string& size, const std::string& color) {
+    return R"(<svg xmlns="http://www.w3.org/2000/svg" )" + size + R"(><rect width="50%" height="100%" fill=")" + color +
+           R"("/></svg>)";
   }
+
+  Pixels drawn(const AssetKey& key, const Drawing& drawing) const { return rendering::drawn(catalog_, key, drawing); }
 
   support::TemporaryFolder folder_;
   AssetCatalog catalog_{folder_.path()};
@@ -57,6 +48,8 @@ TEST_F(AssetCatalogTest, KnowsSizesInPoints) {
   EXPECT_EQ(catalog_.size({.name = "dot"}), (Size{4, 4}));
   EXPECT_EQ(catalog_.size({.name = "dot", .colorScheme = ColorScheme::dark}), (Size{4, 4}));
   EXPECT_EQ(catalog_.size({.name = "bar", .isSymbol = true}), (Size{10, 10}));
+  EXPECT_EQ(catalog_.size({.name = "kite"}), (Size{24, 12}));
+  EXPECT_EQ(catalog_.size({.name = "kite", .colorScheme = ColorScheme::dark}), (Size{48, 36}));
 }
 
 TEST_F(AssetCatalogTest, DrawsNothingForWhatIsNoAsset) {
@@ -84,6 +77,17 @@ TEST_F(AssetCatalogTest, StretchesAPictureIntoItsFrame) {
   EXPECT_EQ(dark.at(10, 10), (Pixel{0, 0, 255, 128}));
 }
 
+TEST_F(AssetCatalogTest, DrawsOutlinesInTheirOwnColoursCrispAtAnyScale) {
+  for (const double side : {20.0, 8.0}) {
+    const Pixels pixels = drawn({.name = "kite"}, {.frame = {{0, 0}, {side, side}}});
+    const auto middle = static_cast<unsigned>(side / 2);
+    EXPECT_EQ(pixels.at(middle - 1, middle), (Pixel{255, 0, 0, 255}));
+    EXPECT_EQ(pixels.at(middle, middle), nothing);
+  }
+  const Pixels pale = drawn({.name = "kite"}, {.frame = {{0, 0}, {20, 20}}, .opacity = 0.5});
+  EXPECT_EQ(pale.at(5, 10), (Pixel{255, 0, 0, 128}));
+}
+
 TEST_F(AssetCatalogTest, DrawsSymbolsAndTintedPicturesAsStencils) {
   const RGBA pink{.red = 1, .green = 0, .blue = 1, .alpha = 0.5};
   const Pixels symbol = drawn({.name = "bar", .isSymbol = true}, {.frame = {{0, 0}, {20, 20}}, .tint = pink});
@@ -91,6 +95,9 @@ TEST_F(AssetCatalogTest, DrawsSymbolsAndTintedPicturesAsStencils) {
   EXPECT_EQ(symbol.at(15, 10), nothing);
   const Pixels picture = drawn({.name = "dot"}, {.frame = {{0, 0}, {20, 20}}, .tint = RGBA{.blue = 1}});
   EXPECT_EQ(picture.at(5, 10), (Pixel{0, 0, 255, 255}));
+  const Pixels outlines = drawn({.name = "kite"}, {.frame = {{0, 0}, {20, 20}}, .tint = pink, .opacity = 0.5});
+  EXPECT_EQ(outlines.at(5, 10), (Pixel{255, 0, 255, 64}));
+  EXPECT_EQ(outlines.at(15, 10), nothing);
 }
 
 }  // namespace

@@ -37,6 +37,7 @@ TEST(DisplayList, HoldsOnlyWhatCanBeSeen) {
       image("moon"),
       image("sun").opacity(0),
       resizableSymbol("sun").foregroundColor(uikit::clear),
+      resizableImage("sun", {.renderingMode = RenderingMode::asTemplate}).foregroundColor(uikit::clear),
   };
   for (const View& view : invisible) EXPECT_EQ(printed(view, {50, 50}), "");
   // A picture in its own colours does not mind the foreground colour.
@@ -84,6 +85,14 @@ TEST(DisplayList, PrintsAsJSON) {
   EXPECT_EQ(printed(resizableSymbol("sun").foregroundColor(RGBA{1, 1, 1}).opacity(0.5), {20, 10}),
             R"({"draw":"image","name":"sun","frame":[0,0,20,10],"tint":"#FFFFFF","opacity":0.5})"
             "\n");
+}
+
+TEST(DisplayList, TintsTemplatesAndKnowsWhereElseAPictureMayBe) {
+  const ImageOptions options{.renderingMode = RenderingMode::asTemplate, .folder = "/icons"};
+  const View blob = image("sun", options).foregroundColor(uikit::RGBA{1, 0, 0.5});
+  EXPECT_EQ(printed(blob, {24, 16}), R"({"draw":"image","name":"sun","frame":[0,0,24,16],"tint":"#FF0080"})"
+                                     "\n");
+  EXPECT_EQ(std::get<DrawImage>(drawn(blob, {24, 16}).at(0)).folder, "/icons");
 }
 
 TEST(DisplayList, PrintsTheScaleOfATextThatIsShrunk) {
