@@ -18,6 +18,15 @@ std::string nameOf(const Shape& shape) {
                     shape);
 }
 
+std::string nameOf(const Control& control) {
+  return std::visit(Overload{
+                        [](const ToggleMeaning&) { return "toggle"; },
+                        [](const GaugeMeaning&) { return "gauge"; },
+                        [](const LinkMeaning&) { return "link"; },
+                    },
+                    control);
+}
+
 std::string nameOf(const PlacedElement& placed) {
   return std::visit(
       Overload{
@@ -34,9 +43,7 @@ std::string nameOf(const PlacedElement& placed) {
           [](const LayoutPriorityElement&) { return std::string("layoutPriority"); },
           [](const OffsetElement&) { return std::string("offset"); },
           [](const LayerElement& layer) { return std::string(layer.isBehind ? "background" : "overlay"); },
-          [](const ControlElement& control) {
-            return std::string(std::holds_alternative<ToggleMeaning>(control.control) ? "toggle" : "gauge");
-          },
+          [](const ControlElement& control) { return nameOf(control.control); },
           [](const GeometryReaderElement&) { return std::string("geometryReader"); },
       },
       placed.element->value);

@@ -32,6 +32,7 @@ struct ClockProvider {
 
 inline swiftui::View clockView(const ClockEntry& entry) {
   if (entry.word == "undrawable") throw DrawingError("no such hour");
+  if (entry.word == "link") return swiftui::link("https://a/b", swiftui::text("go")).widgetURL("https://a/");
   return swiftui::toggle({.isOn = true}, swiftui::text(entry.word))
       .containerBackground(swiftui::filled(swiftui::Rectangle{}).foregroundColor(uikit::RGBA{.red = 1}));
 }
