@@ -1,6 +1,7 @@
 #include "timelines/providers.hpp"
 
 #include "timelines/calendar_entries.hpp"
+#include "timelines/mood_entries.hpp"
 #include "timelines/quote_entries.hpp"
 #include "timelines/task_entries.hpp"
 
@@ -28,7 +29,7 @@ TaskEntry HabitProvider::fallback(const uikit::Platform& platform) {
   return emptyTaskEntry(platform.now, platform.words.localized("Habits"));
 }
 
-// The builders of events, of events with tasks and of moods are not there yet: their lists are empty, and placeholder
+// The builders of events and of events with tasks are not there yet: their lists are empty, and placeholder
 // and snapshot show the fallback.
 
 std::vector<EventEntry> EventProvider::entries(const uikit::Platform&) {
@@ -54,8 +55,8 @@ CalendarEntry CalendarProvider::fallback(const uikit::Platform& platform) {
   return calendarEntry(platform.calendar, platform.now);
 }
 
-std::vector<MoodEntry> MoodProvider::entries(const uikit::Platform&) {
-  return {};
+std::vector<MoodEntry> MoodProvider::entries(const uikit::Platform& platform) {
+  return moodEntries(platform);
 }
 MoodEntry MoodProvider::fallback(const uikit::Platform& platform) {
   return {.date = platform.now, .text = platform.words.localized("Moods"), .day = 1};

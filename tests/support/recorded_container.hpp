@@ -67,6 +67,20 @@ inline nlohmann::json asRecorded(nlohmann::json entries, const std::string& list
   return entries;
 }
 
+/// The entries of moods as they were recorded: without the ids, which are random, and the days by their text, which are
+/// the days of the month once more.
+inline nlohmann::json asRecordedMoods(nlohmann::json entries) {
+  for (auto& entry : entries) {
+    for (const auto& day : entry.at("monthdata")) EXPECT_EQ(entry.at("monthdatadict").at(day.at("text")), day);
+    EXPECT_EQ(entry.at("monthdatadict").size(), entry.at("monthdata").size());
+    entry.erase("monthdatadict");
+    for (const char* list : {"data", "monthdata"}) {
+      for (auto& day : entry.at(list)) day.erase("id");
+    }
+  }
+  return entries;
+}
+
 /// One line for each value in which two JSON values differ; empty where they are equal.
 inline std::string differences(const nlohmann::json& actual, const nlohmann::json& expected) {
   std::string lines;

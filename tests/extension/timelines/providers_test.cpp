@@ -41,11 +41,7 @@ TEST(Providers, FallBackInPlaceholderAndSnapshotOnly) {
   EXPECT_EQ(TaskAndEventProvider().placeholder(platform), both);
   EXPECT_TRUE(TaskAndEventProvider().timeline(platform).entries.empty());
 
-  const MoodEntry mood{.date = moment(now), .text = "Moods", .day = 1};
-  EXPECT_EQ(MoodProvider().placeholder(platform), mood);
-  EXPECT_EQ(MoodProvider().snapshot(platform), mood);
-  EXPECT_TRUE(MoodProvider().timeline(platform).entries.empty());
-
+  EXPECT_EQ(MoodProvider::fallback(platform), (MoodEntry{.date = moment(now), .text = "Moods", .day = 1}));
   EXPECT_EQ(TaskProvider::fallback(platform), tasks);
   EXPECT_EQ(HabitProvider::fallback(platform), (TaskEntry{.date = moment(now), .name = "Habits"}));
   EXPECT_EQ(CalendarProvider::fallback(platform), (CalendarEntry{.date = moment(now),

@@ -6,6 +6,7 @@
 #include "shared/settings.hpp"
 #include "timelines/calendar_entries.hpp"
 #include "timelines/entry_coding.hpp"
+#include "timelines/mood_entries.hpp"
 #include "timelines/providers.hpp"
 #include "timelines/quote_entries.hpp"
 #include "timelines/task_entries.hpp"
@@ -14,6 +15,7 @@ namespace mirune {
 namespace {
 
 using support::asRecorded;
+using support::asRecordedMoods;
 using support::differences;
 
 template <class Entry>
@@ -34,6 +36,8 @@ TEST(RecordedTimelines, AreBuiltAlike) {
     EXPECT_EQ(differences(asRecorded(jsonOf(taskEntries(platform)), "tasks"), expected.at("tasks")), "") << "tasks";
     EXPECT_EQ(differences(asRecorded(jsonOf(habitEntries(platform)), "habits"), expected.at("habits")), "") << "habits";
     EXPECT_EQ(differences(jsonOf(calendarEntries(platform)), expected.at("calendar")), "") << "calendar";
+
+    EXPECT_EQ(differences(asRecordedMoods(jsonOf(moodEntries(platform))), expected.at("moods")), "") << "moods";
 
     auto quoteDates = nlohmann::json::array();
     for (const SimpleEntry& entry : quoteEntries(platform)) {
