@@ -21,9 +21,11 @@ constexpr const char* markerName = ".mirune-demo";
 constexpr const char* unfinished = "unfinished";
 /// What the widgets themselves record when an item is ticked off.
 constexpr std::array overrideNames = {"interactive-widgets-state.json", "interactive-widgets-state2.json"};
+/// Where the planner puts the pictures of its own moods.
+constexpr const char* iconFolder = "icons";
 constexpr const char* themeKey = "app_theme_mode";
 
-/// Texts by file name.
+/// Texts by file name, below the container.
 using Files = std::map<std::string, std::string>;
 
 std::unexpected<std::string> problem(const fs::path& path, const std::string& reason) {
@@ -36,12 +38,13 @@ bool isThere(const fs::path& path) {
   return fs::symlink_status(path, error).type() != fs::file_type::not_found;
 }
 
-std::expected<Files, std::string> readTemplates(const fs::path& folder) {
+/// The files of a folder with that extension.
+std::expected<Files, std::string> readFiles(const fs::path& folder, const char* extension) {
   Files files;
   std::error_code error;
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
     const auto& path = entry->path();
-    if (path.extension() != ".json") continue;
+    if (path.extension() != extension) continue;
     auto text = foundation::readFile(path);
     if (!text) return problem(path, text.error().message());
     files.emplace(path.filename().string(), std::move(*text));
@@ -52,6 +55,9 @@ std::expected<Files, std::string> readTemplates(const fs::path& folder) {
 }
 
 Result writeFile(const fs::path& path, const std::string& text) {
+  std::error_code error;
+  fs::create_directories(path.parent_path(), error);
+  if (error) return problem(path.parent_path(), error.message());
   const auto written = foundation::writeFileAtomically(path, text);
   if (!written) return problem(path, written.error().message());
   return {};
@@ -77,14 +83,11 @@ Result setTheme(const fs::path& folder, int theme) {
 }
 
 Result fill(const DemoContainer& demo, const Files& files) {
-  std::error_code error;
-  fs::create_directories(demo.folder, error);
-  if (error) return problem(demo.folder, error.message());
-
   // The marker comes first, so that a demo that was cut short is still known as one.
   const auto marker = demo.folder / markerName;
   if (const auto result = writeFile(marker, unfinished); !result) return result;
   for (const auto* name : overrideNames) {
+    std::error_code error;
     fs::remove(demo.folder / name, error);
     if (error) return problem(demo.folder / name, error.message());
   }
@@ -98,13 +101,17 @@ Result fill(const DemoContainer& demo, const Files& files) {
 }
 
 std::expected<Files, std::string> expandedFiles(const DemoContainer& demo) {
-  auto files = readTemplates(demo.templates);
+  auto files = readFiles(demo.templates, ".json");
   if (!files) return files;
   for (auto& [name, text] : *files) {
     auto expanded = expandTemplate(text, demo.now, demo.timeZone);
     if (!expanded) return problem(demo.templates / name, "unknown placeholder " + expanded.error());
     text = std::move(*expanded);
   }
+  if (!isThere(demo.templates / iconFolder)) return files;
+  const auto icons = readFiles(demo.templates / iconFolder, ".svg");
+  if (!icons) return icons;
+  for (const auto& [name, text] : *icons) files->emplace((fs::path(iconFolder) / name).string(), text);
   return files;
 }
 

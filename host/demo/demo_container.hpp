@@ -15,8 +15,9 @@ namespace host {
 /// The folder carries a marker file, ".mirune-demo", whose text is the key of the day that it was written for. A folder
 /// that holds any of the files without this marker belongs to a planner and is never touched.
 struct DemoContainer {
-  std::filesystem::path folder = {};     ///< made where it is missing
-  std::filesystem::path templates = {};  ///< folder of *.json files with the placeholders of expandTemplate
+  std::filesystem::path folder = {};  ///< made where it is missing
+  /// Folder of *.json files with the placeholders of expandTemplate, and of icons/*.svg, which are copied as they are.
+  std::filesystem::path templates = {};
   foundation::Date now = {};
   foundation::TimeZone timeZone = {};
   std::optional<int> theme = {};  ///< the planner's "app_theme_mode"; left alone where absent

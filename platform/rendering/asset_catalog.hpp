@@ -27,6 +27,7 @@ struct AssetKey {
 class AssetCatalog {
  public:
   explicit AssetCatalog(std::filesystem::path folder) : folder_(std::move(folder)) {}
+  ~AssetCatalog() = default;
   AssetCatalog(const AssetCatalog&) = delete;
   AssetCatalog& operator=(const AssetCatalog&) = delete;
 

@@ -4,11 +4,13 @@
 #include <sys/stat.h>
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
+#include <chrono>
 #include <string_view>
 
 #include "foundation/file_descriptor.hpp"
+#include "rendering/cairo_handles.hpp"
+#include "rendering/trial.hpp"
 
 namespace rendering {
 namespace {
@@ -16,7 +18,7 @@ namespace {
 using foundation::FileDescriptor;
 
 constexpr std::int64_t largestPNG = 4L * 1024 * 1024;
-constexpr std::int64_t largestSVG = 64L * 1024;
+constexpr std::int64_t largestSVG = 512L * 1024;
 constexpr std::size_t mostKept = 64;
 constexpr std::size_t largestKept = 32UL * 1024 * 1024;
 
@@ -50,26 +52,17 @@ std::optional<std::string> bytesOf(const OpenFile& file) {
   return bytes;
 }
 
-/// The name of the element that begins at the front of a text, without its prefix.
-std::string_view elementName(std::string_view text) {
-  text = text.substr(0, text.find_first_of(" \t\r\n/>"));
-  return text.substr(text.rfind(':') + 1);
-}
-
-/// Whether an SVG file is sure to be drawn in a reasonable time: plain text without the elements by which a few lines
-/// can ask for any amount of work.
-bool isHarmless(std::string_view svg) {
-  constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-  if (svg.starts_with(byteOrderMark)) svg.remove_prefix(byteOrderMark.size());
-  svg.remove_prefix(std::min(svg.find_first_not_of(" \t\r\n"), svg.size()));
-  // Compressed files and those of two bytes to the letter hide what they hold.
-  if (!svg.starts_with('<') || svg.contains('\0')) return false;
-  constexpr std::array<std::string_view, 9> refused = {"!ENTITY", "filter",  "image", "include", "marker",
-                                                       "mask",    "pattern", "text",  "use"};
-  for (auto at = svg.find('<'); at != std::string_view::npos; at = svg.find('<', at + 1)) {
-    if (std::ranges::find(refused, elementName(svg.substr(at + 1))) != refused.end()) return false;
-  }
-  return true;
+/// Whether an SVG file can be drawn, and soon: a few lines of it can ask for any amount of work.
+bool isDrawnSoon(const std::string& svg) {
+  constexpr std::chrono::milliseconds patience(250);
+  return succeedsWithin(patience, [&] {
+    constexpr int side = 256;
+    const auto picture = pictureOfSVG(svg);
+    if (!picture) return false;
+    const SurfaceHandle surface(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, side, side));
+    picture->draw(CairoHandle(cairo_create(surface.get())).get(), {.frame = {.origin = {}, .size = {side, side}}});
+    return true;
+  });
 }
 
 std::int64_t nanoseconds(const timespec& time) {
@@ -82,7 +75,7 @@ std::unique_ptr<Picture> pictureIn(const OpenFile& file, int density) {
   const auto bytes = bytesOf(file);
   if (!bytes) return nullptr;
   if (density != 0) return pictureOfPNG(*bytes, density);
-  return isHarmless(*bytes) ? pictureOfSVG(*bytes) : nullptr;
+  return isDrawnSoon(*bytes) ? pictureOfSVG(*bytes) : nullptr;
 }
 
 }  // namespace

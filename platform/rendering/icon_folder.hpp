@@ -27,9 +27,9 @@ std::vector<PictureFile> pictureFiles(const std::string& name, uikit::ColorSchem
 /// Pictures of folders that others write to while the extension runs, and that may hold anything.
 ///
 /// Only regular files that lie in the folder itself are read: no symbolic links (the folder is none, either), no pipes,
-/// nothing above or below. A PNG may have 4 MiB and 2,048 pixels a side. An SVG may have 64 KiB of plain text without
-/// entities and without the elements filter, image, include, marker, mask, pattern, text and use, by which a short file
-/// can keep a computer busy for minutes. What is too large, refused, broken or unreadable is as if it were missing.
+/// nothing above or below. A PNG may have 4 MiB and 2,048 pixels a side. An SVG may have 512 KiB and take a quarter of
+/// a second of processor time to be read and drawn, which is tried out first. What is too large, too slow, broken or
+/// unreadable is as if it were missing.
 /// A file is read again when it is replaced or changed. The 64 pictures that were asked for last are kept, fewer if
 /// they take more than 32 MiB.
 class IconFolders {

@@ -28,13 +28,20 @@ void paintGroup(cairo_t* cairo, double opacity, auto&& paint) {
 }
 
 void fillStencil(cairo_t* cairo, uikit::RGBA color, double opacity, auto&& paintMask) {
-  // The mask decides where, the colour what; both stay out of the picture until they are joined.
+  // The mask decides where, the colour what; both stay out of the picture until they are joined. SVG files put a mask
+  // in its place only where nothing is moved or scaled around it.
+  cairo_matrix_t matrix;
+  cairo_get_matrix(cairo, &matrix);
+  cairo_identity_matrix(cairo);
   cairo_push_group_with_content(cairo, CAIRO_CONTENT_ALPHA);
+  cairo_set_matrix(cairo, &matrix);
   paintMask();
+  cairo_identity_matrix(cairo);
   cairo_pattern_t* mask = cairo_pop_group(cairo);
   cairo_set_source_rgba(cairo, color.red, color.green, color.blue, color.alpha * opacity);
   cairo_mask(cairo, mask);
   cairo_pattern_destroy(mask);
+  cairo_set_matrix(cairo, &matrix);
 }
 
 /// Maps a picture of that size onto the frame, outside of which nothing is drawn.
@@ -93,8 +100,12 @@ class Outlines final : public Picture {
   std::size_t cost() const override { return cost_; }
 
   void draw(cairo_t* cairo, const Drawing& drawing) const override {
-    enter(cairo, drawing.frame, size_);
-    const auto paint = [&] { render(cairo); };
+    const auto paint = [&] {
+      cairo_save(cairo);
+      enter(cairo, drawing.frame, size_);
+      render(cairo);
+      cairo_restore(cairo);
+    };
     if (drawing.tint) {
       fillStencil(cairo, *drawing.tint, drawing.opacity, paint);
     } else {

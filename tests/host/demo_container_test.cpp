@@ -21,6 +21,7 @@ class DemoContainer : public testing::Test {
   DemoContainer() {
     writeBytes(templates / "tasks.json", R"({"{day+0}": []})");
     writeBytes(templates / "events.json", R"({"{time+0 09:30}": []})");
+    writeBytes(templates / "icons/cat.svg", "<svg>{no placeholder}</svg>");
     writeBytes(templates / "README.md", "{no placeholder}");
   }
 
@@ -47,6 +48,7 @@ TEST_F(DemoContainer, HoldsTheExpandedTemplatesAndAMarker) {
   EXPECT_EQ(readBytes(folder / "data/group/tasks.json"), R"({"2026/11/21": []})");
   EXPECT_EQ(readBytes(folder / "data/group/events.json"), R"({"2026-11-21T09:30:00Z": []})");
   EXPECT_EQ(readBytes(folder / "data/group/.mirune-demo"), "2026/11/21");
+  EXPECT_EQ(readBytes(folder / "data/group/icons/cat.svg"), "<svg>{no placeholder}</svg>");
   EXPECT_FALSE(std::filesystem::exists(folder / "data/group/README.md"));
 }
 
@@ -64,7 +66,7 @@ TEST_F(DemoContainer, IsWrittenAfreshWithoutWhatWasTickedOff) {
 }
 
 TEST_F(DemoContainer, NeverTouchesAPlannersFiles) {
-  for (const char* name : {"tasks.json", "interactive-widgets-state2.json"}) {
+  for (const char* name : {"tasks.json", "interactive-widgets-state2.json", "icons/cat.svg"}) {
     const TemporaryFolder planner;
     writeBytes(planner / name, "real");
     auto over = demo(today);

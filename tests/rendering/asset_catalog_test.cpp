@@ -1,5 +1,6 @@
 #include "rendering/asset_catalog.hpp"
 
+#include <cairo-svg.h>
 #include <gtest/gtest.h>
 
 #include "flat_file.hpp"
@@ -98,6 +99,60 @@ TEST_F(AssetCatalogTest, DrawsSymbolsAndTintedPicturesAsStencils) {
   const Pixels outlines = drawn({.name = "kite"}, {.frame = {{0, 0}, {20, 20}}, .tint = pink, .opacity = 0.5});
   EXPECT_EQ(outlines.at(5, 10), (Pixel{255, 0, 255, 64}));
   EXPECT_EQ(outlines.at(15, 10), nothing);
+}
+
+/// A part of a larger picture, to the right and below, twice as large.
+void drawPart(cairo_surface_t* surface, const AssetCatalog& catalog, const AssetKey& key, const Drawing& drawing) {
+  const CairoHandle cairo(cairo_create(surface));
+  cairo_translate(cairo.get(), 4, 6);
+  cairo_rectangle(cairo.get(), 0, 0, 14, 14);
+  cairo_clip(cairo.get());
+  cairo_scale(cairo.get(), 2, 2);
+  catalog.draw(cairo.get(), key, drawing);
+}
+
+TEST_F(AssetCatalogTest, FilesOfOutlinesHaveEveryPictureInItsPlace) {
+  const swiftui::Rect frame{{1, 1}, {6, 4}};
+  const RGBA teal{.red = 0, .green = 0.5, .blue = 0.5};
+  const struct {
+    AssetKey key;
+    Drawing drawing;
+  } rows[] = {
+      {{.name = "kite"}, {.frame = frame}},
+      {{.name = "kite"}, {.frame = frame, .opacity = 0.5}},
+      {{.name = "kite"}, {.frame = frame, .tint = teal}},
+      {{.name = "dot"}, {.frame = frame, .tint = teal, .opacity = 0.5}},
+      {{.name = "bar", .isSymbol = true}, {.frame = frame, .tint = teal}},
+  };
+  for (const auto& [key, drawing] : rows) {
+    const SurfaceHandle expected(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 20, 20));
+    drawPart(expected.get(), catalog_, key, drawing);
+
+    std::string file;
+    const auto append = [](void* bytes, const unsigned char* data, unsigned length) {
+      static_cast<std::string*>(bytes)->append(reinterpret_cast<const char*>(data), length);
+      return CAIRO_STATUS_SUCCESS;
+    };
+    const SurfaceHandle outlines(cairo_svg_surface_create_for_stream(append, &file, 20, 20));
+    cairo_svg_surface_set_document_unit(outlines.get(), CAIRO_SVG_UNIT_PX);
+    drawPart(outlines.get(), catalog_, key, drawing);
+    cairo_surface_finish(outlines.get());
+    const auto reread = pictureOfSVG(file);
+    ASSERT_NE(reread, nullptr) << file;
+    const SurfaceHandle found(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 20, 20));
+    reread->draw(CairoHandle(cairo_create(found.get())).get(), {.frame = {{0, 0}, {20, 20}}});
+
+    const Pixels one = decoded(encodePNG(expected.get()));
+    const Pixels other = decoded(encodePNG(found.get()));
+    EXPECT_NE(one.at(7, 10), nothing);
+    for (const unsigned x : {0U, 3U, 7U, 10U, 14U, 17U}) {
+      for (unsigned y = 0; y < 20; y += 2) {
+        for (const std::size_t channel : {0U, 1U, 2U, 3U}) {
+          EXPECT_NEAR(one.at(x, y)[channel], other.at(x, y)[channel], 2) << key.name << ' ' << x << ' ' << y;
+        }
+      }
+    }
+  }
 }
 
 }  // namespace
