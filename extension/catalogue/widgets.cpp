@@ -1,10 +1,12 @@
 #include "catalogue/widgets.hpp"
 
+#include "calendar_mood/calendar_month_view.hpp"
 #include "calendar_mood/mood_chart_view.hpp"
 #include "calendar_mood/mood_check_in_view.hpp"
 #include "catalogue/forced_theme.hpp"
 #include "catalogue/not_drawn_yet.hpp"
 #include "lists/task_widget_view_wrapper.hpp"
+#include "styling/backgrounds.hpp"
 #include "timelines/providers.hpp"
 
 namespace mirune {
@@ -52,6 +54,10 @@ Families withLockScreen(Families lockScreen, const Platform& platform) {
 /// A view in the planner's theme, whatever the system is set to.
 View themed(View content) {
   return ForcedTheme{.content = std::move(content)};
+}
+
+View onPaper(View content) {
+  return AddBackgroundModifier{.content = themed(std::move(content))};
 }
 
 }  // namespace
@@ -102,7 +108,7 @@ StaticConfiguration Mirune_Widgets::body(const Platform& platform) const {
 
 StaticConfiguration Mirune_Widgets7::body(const Platform& platform) const {
   return finished(
-      {kind, CalendarProvider{}, [](const CalendarEntry&) { return themed(NotDrawnYet{.widget = "Calendar"}); }},
+      {kind, CalendarProvider{}, [](const CalendarEntry& entry) { return onPaper(CalendarMonthView{.entry = entry}); }},
       {WidgetFamily::systemSmall},
       {.shortName = "calendar", .displayName = "Calendar", .description = "Monthly Calendar"}, platform);
 }

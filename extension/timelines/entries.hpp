@@ -8,7 +8,8 @@
 #include "foundation/date.hpp"
 #include "foundation/uuid.hpp"
 #include "shared/daily_mood.hpp"
-#include "uikit/color.hpp"
+#include "timelines/event_list.hpp"
+#include "uikit/platform.hpp"
 
 namespace mirune {
 
@@ -45,23 +46,10 @@ struct TaskEntry {
   friend bool operator==(const TaskEntry&, const TaskEntry&) = default;
 };
 
-/// One event.
-struct EventWidgetInner {
-  foundation::UUID id = {};
-  std::string title = {};
-  std::string calid = {};
-  uikit::Color color = uikit::SystemColor::label;
-  std::string time = {};  ///< "9:00 - 10:00"
-  bool allday = false;
-  std::optional<foundation::Date> starttime = std::nullopt;
-  std::optional<foundation::Date> endtime = std::nullopt;
-  friend bool operator==(const EventWidgetInner&, const EventWidgetInner&) = default;
-};
-
 /// The events that are still to come at a moment of a day.
 struct EventEntry {
   foundation::Date date = {};
-  std::vector<EventWidgetInner> data = {};
+  EventList data = {};  ///< in the order of their start
   std::int64_t count = 0;
   std::int64_t image = 0;
   std::string name = {};
@@ -103,6 +91,7 @@ struct MoodEntry {
 // Shown where a builder has nothing.
 
 TaskEntry emptyTaskEntry(foundation::Date date, std::string name);
-EventEntry emptyEventEntry(foundation::Date date, std::string name);
+EventEntry emptyEventEntry(const uikit::Platform& platform);
+TaskEventEntry emptyTaskEventEntry(const uikit::Platform& platform);
 
 }  // namespace mirune

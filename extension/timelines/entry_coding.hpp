@@ -87,6 +87,10 @@ constexpr auto fieldsOf(std::type_identity<MoodEntry>) {
                     Field{"text", &MoodEntry::text},           Field{"day", &MoodEntry::day}};
 }
 
+// The list of an entry's events is written like a vector of them.
+void to_json(foundation::JSON& json, const EventList& events);
+void from_json(const foundation::JSON& json, EventList& events);
+
 template <class Record>
 concept CodedRecord = requires { fieldsOf(std::type_identity<Record>()); };
 

@@ -1,9 +1,11 @@
 #include "timelines/providers.hpp"
 
 #include "timelines/calendar_entries.hpp"
+#include "timelines/event_entries.hpp"
 #include "timelines/mood_entries.hpp"
 #include "timelines/quote_entries.hpp"
 #include "timelines/task_entries.hpp"
+#include "timelines/task_event_entries.hpp"
 
 namespace mirune {
 
@@ -29,23 +31,18 @@ TaskEntry HabitProvider::fallback(const uikit::Platform& platform) {
   return emptyTaskEntry(platform.now, platform.words.localized("Habits"));
 }
 
-// The builders of events and of events with tasks are not there yet: their lists are empty, and placeholder
-// and snapshot show the fallback.
-
-std::vector<EventEntry> EventProvider::entries(const uikit::Platform&) {
-  return {};
+std::vector<EventEntry> EventProvider::entries(const uikit::Platform& platform) {
+  return eventEntries(platform);
 }
 EventEntry EventProvider::fallback(const uikit::Platform& platform) {
-  return emptyEventEntry(platform.now, platform.words.localized("Events"));
+  return emptyEventEntry(platform);
 }
 
-std::vector<TaskEventEntry> TaskAndEventProvider::entries(const uikit::Platform&) {
-  return {};
+std::vector<TaskEventEntry> TaskAndEventProvider::entries(const uikit::Platform& platform) {
+  return taskEventEntries(platform);
 }
 TaskEventEntry TaskAndEventProvider::fallback(const uikit::Platform& platform) {
-  return {.date = platform.now,
-          .taskEntry = TaskProvider::fallback(platform),
-          .eventEntry = EventProvider::fallback(platform)};
+  return emptyTaskEventEntry(platform);
 }
 
 std::vector<CalendarEntry> CalendarProvider::entries(const uikit::Platform& platform) {

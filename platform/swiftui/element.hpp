@@ -117,6 +117,8 @@ struct LayerElement {
 struct ControlElement {
   Control control = {};
 };
+/// One of its children is shown.
+struct ViewThatFitsElement {};
 /// Its content is resolved when its size is known.
 struct GeometryReaderElement {
   std::function<Element(Size)> content = nullptr;
@@ -125,7 +127,7 @@ struct GeometryReaderElement {
 struct Element {
   std::variant<TextElement, ImageElement, ShapeElement, SpacerElement, StackElement, ZStackElement, PaddingElement,
                FixedFrameElement, FlexibleFrameElement, FixedSizeElement, LayoutPriorityElement, OffsetElement,
-               LayerElement, ControlElement, GeometryReaderElement>
+               LayerElement, ControlElement, ViewThatFitsElement, GeometryReaderElement>
       value = ZStackElement{};
   std::vector<Element> children = {};
 };

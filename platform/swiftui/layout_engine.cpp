@@ -90,6 +90,24 @@ LayoutResult transparent(LayoutEngine& engine, const Element& element, ProposedS
   return result;
 }
 
+bool fits(Size ideal, ProposedSize proposal) {
+  return ideal.width <= proposal.width.value_or(infinity) && ideal.height <= proposal.height.value_or(infinity);
+}
+
+LayoutResult layoutViewThatFits(LayoutEngine& engine, const Element& element, ProposedSize proposal) {
+  if (element.children.empty()) return {};
+  std::size_t chosen = 0;
+  while (chosen + 1 < element.children.size() && !fits(engine.measure(element.children[chosen], {}).size, proposal)) {
+    ++chosen;
+  }
+  const LayoutResult& child = engine.measure(element.children[chosen], proposal);
+  LayoutResult result = enclosing(child, child.size, {}, proposal);
+  Placement shown = result.children.front();
+  result.children.assign(element.children.size(), {.isShown = false});
+  result.children[chosen] = shown;
+  return result;
+}
+
 LayoutResult answer(LayoutEngine& engine, const Element& element, ProposedSize proposal) {
   return std::visit(
       Overload{
@@ -113,6 +131,7 @@ LayoutResult answer(LayoutEngine& engine, const Element& element, ProposedSize p
           [&](const OffsetElement& offset) { return transparent(engine, element, proposal, offset.offset); },
           [&](const LayerElement& layer) { return layoutLayer(engine, element, layer, proposal); },
           [&](const ControlElement&) { return transparent(engine, element, proposal); },
+          [&](const ViewThatFitsElement&) { return layoutViewThatFits(engine, element, proposal); },
           [&](const GeometryReaderElement&) {
             return LayoutResult{.size = {.width = proposal.width.value_or(0), .height = proposal.height.value_or(0)}};
           },
@@ -200,6 +219,7 @@ PlacedElement LayoutEngine::place(const Element& element, Point origin, Proposed
   if (result.text) placed.firstBaseline = result.firstBaseline.value_or(0);
   for (std::size_t i = 0; i < element.children.size(); ++i) {
     const Placement& placement = result.children[i];
+    if (!placement.isShown) continue;
     const Element& child = element.children[i];
     double x = placement.origin.x;
     if (direction == LayoutDirection::rightToLeft) {

@@ -10,6 +10,7 @@ namespace swiftui {
 struct Placement {
   Point origin = {};
   ProposedSize proposal = {};
+  bool isShown = true;
 };
 
 /// How one element answers one proposal.

@@ -102,6 +102,9 @@ struct LinkNode {
   std::string url = {};
   View label;
 };
+struct ViewThatFitsNode {
+  std::vector<View> candidates = {};
+};
 struct GeometryReaderNode {
   std::function<View(Size)> content = nullptr;
 };
@@ -110,7 +113,7 @@ struct Node {
   std::variant<EmptyNode, GroupNode, ComponentNode, TextNode, ImageNode, ShapeNode, SpacerNode, StackNode, ZStackNode,
                PaddingNode, FixedFrameNode, FlexibleFrameNode, FixedSizeNode, LayoutPriorityNode, OffsetNode, LayerNode,
                ContainerBackgroundNode, WidgetURLNode, EnvironmentNode, ToggleNode, GaugeNode, LinkNode,
-               GeometryReaderNode>
+               ViewThatFitsNode, GeometryReaderNode>
       value = EmptyNode{};
 };
 

@@ -132,6 +132,9 @@ class Resolver {
     out.push_back({.value = ControlElement{.control = LinkMeaning{.url = node.url}},
                    .children = {single(node.label, environment)}});
   }
+  void append(const ViewThatFitsNode& node, const EnvironmentValues& environment, Elements& out) {
+    out.push_back({.value = ViewThatFitsElement{}, .children = all(node.candidates, environment)});
+  }
   void append(const GeometryReaderNode& node, const EnvironmentValues& environment, Elements& out) {
     out.push_back({.value = GeometryReaderElement{.content = [content = node.content, environment](Size size) {
                      return Resolver().single(content(size), environment);

@@ -134,6 +134,9 @@ View gauge(GaugeOptions options, View label, View currentValueLabel) {
 View link(std::string url, View label) {
   return View(Node{LinkNode{.url = std::move(url), .label = std::move(label)}});
 }
+View viewThatFits(std::vector<View> candidates) {
+  return View(Node{ViewThatFitsNode{.candidates = std::move(candidates)}});
+}
 View geometryReader(std::function<View(Size)> content) {
   return View(Node{GeometryReaderNode{.content = std::move(content)}});
 }

@@ -191,6 +191,9 @@ View gauge(GaugeOptions options, View label, View currentValueLabel);
 /// A label that leads to an address. Its texts say what it is.
 View link(std::string url, View label);
 
+/// The first of these whose ideal size fits into what is offered; the last one where none does.
+View viewThatFits(std::vector<View> candidates);
+
 /// What is made for the size that is offered, once that is known; placed at the top leading corner.
 View geometryReader(std::function<View(Size)> content);
 

@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include <fstream>
+#include <set>
 #include <string>
 
 namespace support {
@@ -19,6 +20,19 @@ inline nlohmann::json recordedCases(const std::string& name) {
     return nlohmann::json::array();
   }
   return rows;
+}
+
+// The cases were recorded with a later edition of the locale data, which says other things of these locales.
+
+inline bool hasOtherWeekdayLetters(const std::string& locale) {
+  return locale == "ru_RU" || locale == "en_AU";
+}
+inline bool hasOtherFirstWeekday(const std::string& locale) {
+  return locale == "zh_CN";
+}
+inline bool hasOtherShortTimes(const std::string& locale) {
+  static const std::set<std::string> locales = {"el_GR", "hi_IN", "ar_EG", "ar_SA", "en_AU", "en_CA"};
+  return locales.contains(locale);
 }
 
 }  // namespace support

@@ -3,11 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <filesystem>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
 
+#include "support/recorded_cases.hpp"
 #include "support/temporary_folder.hpp"
 
 namespace support {
@@ -57,12 +59,32 @@ struct RecordedContainer {
   TemporaryFolder folder;
 };
 
-/// The entries of tasks or habits as they were recorded: names are English there, and of what is theirs alone the item
-/// type of habits and the dates of items are left out.
+/// An event as it was recorded: without its id, its colour in bytes.
+inline void reduceEvent(nlohmann::json& event) {
+  event.erase("id");
+  if (!event.at("color").is_object()) return;
+  for (auto& part : event["color"]) part = std::lround(part.get<double>() * 255);
+}
+
+/// The sides of a combined entry are recorded by what tells entries apart.
+inline nlohmann::json reducedSide(const nlohmann::json& entry) {
+  return {{"date", entry.at("date")}, {"count", entry.at("count")}, {"image", entry.at("image")}};
+}
+
+/// The entries of a list as they were recorded: names are English there, of identifiers and of the item type of habits
+/// nothing is said.
 inline nlohmann::json asRecorded(nlohmann::json entries, const std::string& list) {
   for (auto& entry : entries) {
-    for (auto& item : entry.at("data")) item.erase("date");
+    if (list == "tasks" || list == "habits") {
+      for (auto& item : entry.at("data")) item.erase("date");
+    }
     if (list == "habits") entry["itemtype"] = 0;
+    if (list == "events") {
+      for (auto& event : entry.at("data")) reduceEvent(event);
+    }
+    if (list == "combined") {
+      for (const char* side : {"taskEntry", "eventEntry"}) entry[side] = reducedSide(entry.at(side));
+    }
   }
   return entries;
 }
@@ -79,6 +101,25 @@ inline nlohmann::json asRecordedMoods(nlohmann::json entries) {
     }
   }
   return entries;
+}
+
+/// Recorded events with the answered times where these are right: where either of two is recorded, that of the two that
+/// was answered; for locales that write times otherwise, any.
+inline nlohmann::json withTimesOf(const nlohmann::json& actual, nlohmann::json expected, const std::string& locale) {
+  for (std::size_t i = 0; i < expected.size() && i < actual.size(); ++i) {
+    const auto& answered = actual[i].at("data");
+    auto& data = expected[i].at("data");
+    for (std::size_t k = 0; k < data.size() && k < answered.size(); ++k) {
+      auto& time = data[k].at("time");
+      const auto& own = answered[k].at("time");
+      if (hasOtherShortTimes(locale)) {
+        time = own;
+      } else if (time.is_array()) {
+        time = std::ranges::find(time, own) != time.end() ? own : time.front();
+      }
+    }
+  }
+  return expected;
 }
 
 /// One line for each value in which two JSON values differ; empty where they are equal.

@@ -1,10 +1,12 @@
 #pragma once
 
-#include "uikit/color.hpp"
+#include "styling/hex_color.hpp"
 
 namespace mirune {
 
-/// The planner's pink, #E96E9E.
-inline constexpr uikit::RGBA accentColor{.red = 0xE9 / 255.0, .green = 0x6E / 255.0, .blue = 0x9E / 255.0};
+/// The planner's own pink, which marks today.
+inline uikit::RGBA accentColor() {
+  return sRGBColorOfHex("#E96E9E");
+}
 
 }  // namespace mirune

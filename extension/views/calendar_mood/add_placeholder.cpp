@@ -10,7 +10,7 @@ View AddPlaceholder::body(const EnvironmentValues&) const {
   const StrokeStyle dashed{.lineWidth = 1, .lineCap = LineCap::round, .lineJoin = LineJoin::round, .dash = {5, 5}};
   return strokedInside(Circle{}, dashed)
       .overlay(resizableSymbol("plus").frame({.width = 11, .height = 11}))
-      .foregroundColor(accentColor);
+      .foregroundColor(accentColor());
 }
 
 }  // namespace mirune

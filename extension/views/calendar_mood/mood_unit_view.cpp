@@ -14,7 +14,7 @@ View MoodUnitView::body(const EnvironmentValues&) const {
   if (!moodItem.id.empty()) return MoodImage{.mood = moodItem, .label = number + ", " + moodItem.name};
   const View plain = text(number).font(system(textsize));
   const View label =
-      selected ? text(number).font(system(textsize, FontWeight::semibold)).foregroundColor(accentColor).opacity(0.9)
+      selected ? text(number).font(system(textsize, FontWeight::semibold)).foregroundColor(accentColor()).opacity(0.9)
                : plain;
   const View ground = filled(Circle{}).foregroundColor(uikit::SystemColor::gray).opacity(0.1);
   // In a small cell the padding may reach over its edge, the number never.

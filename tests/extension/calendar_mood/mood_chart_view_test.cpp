@@ -92,7 +92,7 @@ TEST(MoodChart, SelectsTheCellWhoseIndexIsTheDay) {
   for (const auto& [day, numbers] : rows) {
     std::vector<std::string> selected;
     for (const auto& text : having(drawnBy(moodScene("moods", moodEntryOf(30, {}, day), WidgetFamily::systemLarge)),
-                                   "color", uikit::hexText(accentColor))) {
+                                   "color", uikit::hexText(accentColor()))) {
       selected.push_back(text.at("text"));
     }
     EXPECT_EQ(selected, numbers) << day;

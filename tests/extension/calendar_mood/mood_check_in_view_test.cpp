@@ -111,6 +111,19 @@ TEST(MoodCheckIn, TintsItsGroundUnlessTheColourIsTheOriginal) {
   }
 }
 
+TEST(MoodCheckIn, LooksForIconsInThePlannersFolder) {
+  Planner planner;
+  const auto entry = moodEntryOf(30, someMood("a cat of my own"));
+  const auto scene = moodScene("mood", entry, WidgetFamily::systemSmall, planner.platform());
+  for (const auto& command : scene.drawn) {
+    const auto* image = std::get_if<rendering::DrawImage>(&command);
+    if (image == nullptr || image->name != "a cat of my own") continue;
+    EXPECT_EQ(image->folder, planner.folder() / "icons");
+    return;
+  }
+  ADD_FAILURE() << "no icon";
+}
+
 TEST(MoodCheckIn, ShowsTheMonthWhereItIsLargeAndSaysWhatItDoesNotSupport) {
   const auto large = moodScene("mood", moodEntryOf(30, {}), WidgetFamily::systemLarge);
   EXPECT_EQ(textsOf(large).front(), "SEPTEMBER 2026");

@@ -26,23 +26,17 @@ JSON policyOf(const uikit::Platform& platform) {
   return Provider().timeline(platform).policy.json();
 }
 
-TEST(Providers, FallBackInPlaceholderAndSnapshotOnly) {
+TEST(Providers, HaveAnEntryToFallBackOn) {
   Planner planner;
   const auto platform = planner.platform();
   const TaskEntry tasks{.date = moment(now), .name = "Tasks"};
   const EventEntry events{.date = moment(now), .name = "Events"};
 
-  const EventProvider eventProvider;
-  EXPECT_EQ(eventProvider.placeholder(platform), events);
-  EXPECT_EQ(eventProvider.snapshot(platform), events);
-  EXPECT_TRUE(eventProvider.timeline(platform).entries.empty());
-
-  const TaskEventEntry both{.date = moment(now), .taskEntry = tasks, .eventEntry = events};
-  EXPECT_EQ(TaskAndEventProvider().placeholder(platform), both);
-  EXPECT_TRUE(TaskAndEventProvider().timeline(platform).entries.empty());
-
   EXPECT_EQ(MoodProvider::fallback(platform), (MoodEntry{.date = moment(now), .text = "Moods", .day = 1}));
   EXPECT_EQ(TaskProvider::fallback(platform), tasks);
+  EXPECT_EQ(EventProvider::fallback(platform), events);
+  EXPECT_EQ(TaskAndEventProvider::fallback(platform),
+            (TaskEventEntry{.date = moment(now), .taskEntry = tasks, .eventEntry = events}));
   EXPECT_EQ(HabitProvider::fallback(platform), (TaskEntry{.date = moment(now), .name = "Habits"}));
   EXPECT_EQ(CalendarProvider::fallback(platform), (CalendarEntry{.date = moment(now),
                                                                  .month_date = moment("2026-11-01T00:00:00Z"),

@@ -6,10 +6,12 @@
 #include "shared/settings.hpp"
 #include "timelines/calendar_entries.hpp"
 #include "timelines/entry_coding.hpp"
+#include "timelines/event_entries.hpp"
 #include "timelines/mood_entries.hpp"
 #include "timelines/providers.hpp"
 #include "timelines/quote_entries.hpp"
 #include "timelines/task_entries.hpp"
+#include "timelines/task_event_entries.hpp"
 
 namespace mirune {
 namespace {
@@ -17,6 +19,7 @@ namespace {
 using support::asRecorded;
 using support::asRecordedMoods;
 using support::differences;
+using support::withTimesOf;
 
 template <class Entry>
 nlohmann::json jsonOf(const std::vector<Entry>& entries) {
@@ -35,6 +38,10 @@ TEST(RecordedTimelines, AreBuiltAlike) {
 
     EXPECT_EQ(differences(asRecorded(jsonOf(taskEntries(platform)), "tasks"), expected.at("tasks")), "") << "tasks";
     EXPECT_EQ(differences(asRecorded(jsonOf(habitEntries(platform)), "habits"), expected.at("habits")), "") << "habits";
+    const auto events = asRecorded(jsonOf(eventEntries(platform)), "events");
+    EXPECT_EQ(differences(events, withTimesOf(events, expected.at("events"), recorded.locale)), "") << "events";
+    EXPECT_EQ(differences(asRecorded(jsonOf(taskEventEntries(platform)), "combined"), expected.at("combined")), "")
+        << "combined";
     EXPECT_EQ(differences(jsonOf(calendarEntries(platform)), expected.at("calendar")), "") << "calendar";
 
     EXPECT_EQ(differences(asRecordedMoods(jsonOf(moodEntries(platform))), expected.at("moods")), "") << "moods";

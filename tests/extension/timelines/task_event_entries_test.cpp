@@ -1,0 +1,102 @@
+#include "timelines/task_event_entries.hpp"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "planner.hpp"
+
+namespace mirune {
+namespace {
+
+using foundation::Date;
+
+Date minute(std::int64_t number) {
+  return Date(std::chrono::minutes(number));
+}
+
+const TaskEventEntry fallback{.taskEntry = {.name = "no tasks"}, .eventEntry = {.name = "no events"}};
+
+/// "10 t1 e-": the minute and which entry of each side stands, "-" for the fallback.
+std::vector<std::string> linesOf(const std::vector<TaskEventEntry>& entries) {
+  std::vector<std::string> lines;
+  for (const TaskEventEntry& entry : entries) {
+    const auto side = [](const auto& it) { return it.name.starts_with("no ") ? "-" : std::to_string(it.image); };
+    const auto at = std::chrono::floor<std::chrono::minutes>(entry.date).time_since_epoch().count();
+    lines.push_back(std::to_string(at) + " t" + side(entry.taskEntry) + " e" + side(entry.eventEntry));
+  }
+  return lines;
+}
+
+template <class Entry>
+std::vector<Entry> entriesAt(const std::vector<int>& minutes) {
+  std::vector<Entry> entries;
+  for (const int at : minutes) {
+    entries.push_back({.date = minute(at), .image = static_cast<std::int64_t>(entries.size()) + 1, .name = "some"});
+  }
+  return entries;
+}
+
+TEST(TaskEventEntries, PairWhatBothSidesShow) {
+  const struct {
+    const char* name;
+    std::vector<int> tasks;
+    std::vector<int> events;
+    std::vector<std::string> lines;
+  } rows[] = {
+      {"equal moments make one entry", {0, 10}, {0, 10}, {"0 t1 e1", "10 t2 e2"}},
+      {"each change makes one", {0, 20}, {0, 5, 7, 20}, {"0 t1 e1", "5 t1 e2", "7 t1 e3", "20 t2 e4"}},
+      {"before the first there is the fallback", {10}, {5, 12}, {"5 t- e1", "10 t1 e1", "12 t1 e2"}},
+      {"what is left pairs with the last", {0, 10, 20}, {5}, {"0 t1 e-", "5 t1 e1", "10 t2 e1", "20 t3 e1"}},
+      {"one side empty", {0, 10}, {}, {"0 t1 e-", "10 t2 e-"}},
+      {"the other side empty", {}, {3}, {"3 t- e1"}},
+      {"both empty", {}, {}, {}},
+      {"sorted first", {10, 0}, {10, 5, 0}, {"0 t2 e3", "5 t2 e2", "10 t1 e1"}},
+      {"equal moments of a side stay in order, each with one of the other side",
+       {0},
+       {0, 0, 0},
+       {"0 t1 e1", "0 t1 e2", "0 t1 e3"}},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(linesOf(merged(entriesAt<TaskEntry>(row.tasks), entriesAt<EventEntry>(row.events), fallback)), row.lines)
+        << row.name;
+  }
+}
+
+TEST(TaskEventEntries, ShowAtEveryMomentTheLatestOfBothSides) {
+  std::mt19937 random(1);
+  for (int round = 0; round < 200; ++round) {
+    std::vector<int> tasks(random() % 8);
+    std::vector<int> events(random() % 8);
+    for (int& at : tasks) at = static_cast<int>(random() % 20);
+    for (int& at : events) at = static_cast<int>(random() % 20);
+    const auto taskList = entriesAt<TaskEntry>(tasks);
+    const auto eventList = entriesAt<EventEntry>(events);
+    const auto entries = merged(taskList, eventList, fallback);
+    EXPECT_TRUE(std::ranges::is_sorted(entries, {}, &TaskEventEntry::date));
+
+    /// The last entry whose date is not after the moment; of equal dates the last.
+    const auto latest = [](const auto& list, Date at) {
+      std::int64_t image = 0;
+      std::optional<Date> best;
+      for (const auto& each : list) {
+        if (each.date <= at && (!best || each.date >= *best)) {
+          best = each.date;
+          image = each.image;
+        }
+      }
+      return image;
+    };
+    for (int at = 0; at < 20; ++at) {
+      const TaskEventEntry* shown = nullptr;
+      for (const auto& entry : entries) {
+        if (entry.date <= minute(at)) shown = &entry;
+      }
+      EXPECT_EQ(shown == nullptr ? 0 : shown->taskEntry.image, latest(taskList, minute(at)));
+      EXPECT_EQ(shown == nullptr ? 0 : shown->eventEntry.image, latest(eventList, minute(at)));
+    }
+  }
+}
+
+}  // namespace
+}  // namespace mirune
