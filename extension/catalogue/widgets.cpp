@@ -5,7 +5,11 @@
 #include "calendar_mood/mood_check_in_view.hpp"
 #include "catalogue/forced_theme.hpp"
 #include "catalogue/not_drawn_yet.hpp"
+#include "lists/event_widget_view_wrapper.hpp"
+#include "lists/mirune_widgets_entry_view.hpp"
+#include "lists/task_event_view.hpp"
 #include "lists/task_widget_view_wrapper.hpp"
+#include "lists/thoughts.hpp"
 #include "styling/backgrounds.hpp"
 #include "timelines/providers.hpp"
 
@@ -90,17 +94,21 @@ StaticConfiguration Mirune_Widgets3::body(const Platform& platform) const {
 }
 
 StaticConfiguration Mirune_Widgets4::body(const Platform& platform) const {
-  return finished({kind, EventProvider{}, [](const EventEntry&) { return View(NotDrawnYet{.widget = "Events"}); }},
-                  withLockScreen({WidgetFamily::accessoryRectangular, WidgetFamily::accessoryInline}, platform),
-                  {.shortName = "events",
-                   .displayName = "Events",
-                   .description = "Keep track of your upcoming events and meetings."},
-                  platform);
+  return finished(
+      {kind, EventProvider{}, [](const EventEntry& entry) { return View(EventWidgetViewWrapper{.entry = entry}); }},
+      withLockScreen({WidgetFamily::accessoryRectangular, WidgetFamily::accessoryInline}, platform),
+      {.shortName = "events",
+       .displayName = "Events",
+       .description = "Keep track of your upcoming events and meetings."},
+      platform);
 }
 
 StaticConfiguration Mirune_Widgets::body(const Platform& platform) const {
   return finished(
-      {kind, Provider{}, [](const SimpleEntry&) { return themed(NotDrawnYet{.widget = "Quote of the Day"}); }},
+      {kind, Provider{},
+       [](const SimpleEntry& entry) {
+         return onPaper(Mirune_WidgetsEntryView{.entry = entry, .thoughts = thoughtTable()});
+       }},
       {WidgetFamily::systemMedium},
       {.shortName = "quote", .displayName = "Quote of the Day", .description = "Get daily inspirational quotes."},
       platform);
@@ -115,7 +123,7 @@ StaticConfiguration Mirune_Widgets7::body(const Platform& platform) const {
 
 StaticConfiguration Mirune_Widgets8::body(const Platform& platform) const {
   return finished({kind, TaskAndEventProvider{},
-                   [](const TaskEventEntry&) { return themed(NotDrawnYet{.widget = "Events and Tasks"}); }},
+                   [](const TaskEventEntry& entry) { return onPaper(TaskEventView{.entry = entry}); }},
                   {WidgetFamily::systemMedium},
                   {.shortName = "combined", .displayName = "Events and Tasks", .description = "Events and Tasks"},
                   platform);

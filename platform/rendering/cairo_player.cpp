@@ -53,6 +53,9 @@ void addShape(cairo_t* cairo, const Shape& shape, const Rect& frame, double inse
                    cairo_arc(cairo, frame.origin.x + frame.size.width / 2, frame.origin.y + frame.size.height / 2,
                              radius, radians(arc.startAngle), radians(arc.endAngle));
                  },
+                 [&](const PathShape& own) {
+                   for (const Point& point : own.path(frame)) cairo_line_to(cairo, point.x, point.y);
+                 },
              },
              shape);
 }
@@ -85,9 +88,11 @@ double CairoPlayer::snapped(double points) const {
 Rect CairoPlayer::snapped(Rect frame) const {
   const double left = snapped(frame.origin.x);
   const double top = snapped(frame.origin.y);
+  // What is finer than a pixel takes one, wherever it stands.
+  const double pixel = 1 / scale_;
   return {.origin = {.x = left, .y = top},
-          .size = {.width = snapped(frame.origin.x + frame.size.width) - left,
-                   .height = snapped(frame.origin.y + frame.size.height) - top}};
+          .size = {.width = std::max(pixel, snapped(frame.origin.x + frame.size.width) - left),
+                   .height = std::max(pixel, snapped(frame.origin.y + frame.size.height) - top)}};
 }
 
 void CairoPlayer::paint(const DrawText& draw) const {

@@ -64,6 +64,7 @@ JSON jsonOf(const DrawShape& draw) {
                    json["startAngle"] = jsonOfLength(arc.startAngle);
                    json["endAngle"] = jsonOfLength(arc.endAngle);
                  },
+                 [&](const PathShape&) { json["shape"] = "path"; },
              },
              draw.shape);
   json["frame"] = jsonOf(draw.frame);

@@ -71,8 +71,9 @@ swiftui::FontMetrics GlyphText::customFontMetrics(const Font& font) const {
   };
   const std::unique_ptr<PangoFontMetrics, Unref> metrics(
       pango_context_get_metrics(context_.get(), description(font).get(), nullptr));
-  const double ascent = pango_units_to_double(pango_font_metrics_get_ascent(metrics.get()));
   const double descent = pango_units_to_double(pango_font_metrics_get_descent(metrics.get()));
+  // What a font wants between its lines belongs to each of them: fonts that keep it apart leave too little without it.
+  const double ascent = pango_units_to_double(pango_font_metrics_get_height(metrics.get())) - descent;
   const GObjectHandle<PangoLayout> capital = paragraph("H", {.font = font});
   PangoRectangle ink;
   pango_layout_get_extents(capital.get(), &ink, nullptr);

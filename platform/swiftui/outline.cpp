@@ -14,6 +14,7 @@ std::string nameOf(const Shape& shape) {
                         [](const RoundedRectangle&) { return "roundedRectangle"; },
                         [](const Circle&) { return "circle"; },
                         [](const Arc&) { return "arc"; },
+                        [](const PathShape&) { return "path"; },
                     },
                     shape);
 }

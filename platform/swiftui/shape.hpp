@@ -3,6 +3,8 @@
 #include <variant>
 #include <vector>
 
+#include "swiftui/geometry.hpp"
+
 namespace swiftui {
 
 struct Rectangle {
@@ -25,7 +27,16 @@ struct Arc {
   friend bool operator==(const Arc&, const Arc&) = default;
 };
 
-using Shape = std::variant<Rectangle, RoundedRectangle, Circle, Arc>;
+/// Points joined by straight lines.
+using Path = std::vector<Point>;
+
+/// What an extension draws with a pen of its own: the path in a frame, whose origin is where the frame's is.
+struct PathShape {
+  Path (*path)(const Rect& rect) = nullptr;
+  friend bool operator==(const PathShape&, const PathShape&) = default;
+};
+
+using Shape = std::variant<Rectangle, RoundedRectangle, Circle, Arc, PathShape>;
 
 enum class LineCap { butt, round };
 enum class LineJoin { miter, round };

@@ -43,14 +43,15 @@ std::string badgeImageName(std::int64_t image, ColorScheme scheme) {
   return badges[static_cast<std::size_t>(image) % badges.size()];
 }
 
+View badgeSizer() {
+  return text("13").font(custom(badgeFont, 15)).foregroundColor(uikit::clear);
+}
+
 View HeaderBadge::body(const EnvironmentValues& environment) const {
   const ColorScheme scheme = environment.colorScheme;
   const auto& calendar = environment.platform->calendar;
   const std::int64_t day = calendar.component(foundation::CalendarComponent::day, date);
-  // An unseen number of two digits makes every badge as wide.
-  return text("13")
-      .font(custom(badgeFont, 15))
-      .foregroundColor(uikit::clear)
+  return badgeSizer()
       .padding({.leading = 4, .trailing = 4})
       .background(resizableImage(badgeImageName(image, scheme)))
       .overlay(

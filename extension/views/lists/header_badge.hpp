@@ -11,6 +11,9 @@ namespace mirune {
 /// stops the extension.
 std::string badgeImageName(std::int64_t image, uikit::ColorScheme scheme);
 
+/// An unseen number of two digits, which makes every badge as large.
+swiftui::View badgeSizer();
+
 /// The day of the month on a wash of colour.
 struct HeaderBadge {
   std::int64_t image = 0;

@@ -11,4 +11,8 @@ View HeaderRow::body(const EnvironmentValues&) const {
   return hstack({.spacing = 0}, {listTitle(name), spacer(), HeaderBadge{.image = image, .date = date}});
 }
 
+View BareHeaderRow::body(const EnvironmentValues&) const {
+  return hstack({.spacing = 0}, {listTitle(name), badgeSizer().frame({.width = 0})});
+}
+
 }  // namespace mirune

@@ -16,4 +16,11 @@ struct HeaderRow {
   swiftui::View body(const swiftui::EnvironmentValues& environment) const;
 };
 
+/// The title alone, on a line as tall as that with a badge.
+struct BareHeaderRow {
+  std::string name = {};
+
+  swiftui::View body(const swiftui::EnvironmentValues& environment) const;
+};
+
 }  // namespace mirune

@@ -13,10 +13,12 @@ View listTitle(const std::string& name) {
       .lineLimit(1);
 }
 
+std::string moreText(const foundation::Words& words, long long count) {
+  return foundation::filled(words.localized("+%lld more"), count);
+}
+
 View moreFooter(const foundation::Words& words, long long count) {
-  return text(foundation::filled(words.localized("+%lld more"), count))
-      .font(system(10, FontWeight::light, FontDesign::rounded))
-      .lineLimit(1);
+  return text(moreText(words, count)).font(system(10, FontWeight::light, FontDesign::rounded)).lineLimit(1);
 }
 
 }  // namespace mirune

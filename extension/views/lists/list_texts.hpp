@@ -10,7 +10,10 @@ namespace mirune {
 /// The title of a list: its name in capitals.
 swiftui::View listTitle(const std::string& name);
 
-/// "+2 more", small and on one line.
+/// "+2 more"
+std::string moreText(const foundation::Words& words, long long count);
+
+/// The same, small and on one line.
 swiftui::View moreFooter(const foundation::Words& words, long long count);
 
 }  // namespace mirune

@@ -3,6 +3,7 @@
 #include "foundation/fatal_error.hpp"
 #include "foundation/strings.hpp"
 #include "lists/header_row.hpp"
+#include "lists/list_frame.hpp"
 #include "lists/list_texts.hpp"
 #include "lists/system_features.hpp"
 #include "lists/test_toggle.hpp"
@@ -47,16 +48,14 @@ View TaskWidgetView::body(const EnvironmentValues& environment) const {
   const foundation::Words& words = environment.platform->words;
   const bool isInteractive = environment.platform->systemVersion >= interactiveVersion;
   const View header = shouldAddHeader ? View(HeaderRow{.name = entry.name, .image = entry.image, .date = entry.date})
-                                      : listTitle(entry.name);
+                                      : View(BareHeaderRow{.name = entry.name});
   const long long more = foundation::checkedDifference(entry.count, rowCap);
-  return vstack({.alignment = HorizontalAlignment::leading, .spacing = 0},
-                {
-                    header.padding({.bottom = 3}),
-                    entry.count < 1 ? emptyText(entry, words) : rows(entry, isInteractive),
-                    more >= 1 ? moreFooter(words, more).padding({.top = 3}) : emptyView(),
-                })
-      .frame({.maxWidth = infinity, .maxHeight = infinity, .alignment = Alignment::topLeading})
-      .padding(16);
+  return listFrame(vstack({.alignment = HorizontalAlignment::leading, .spacing = 0},
+                          {
+                              header.padding({.bottom = 3}),
+                              entry.count < 1 ? emptyText(entry, words) : rows(entry, isInteractive),
+                              more >= 1 ? moreFooter(words, more).padding({.top = 3}) : emptyView(),
+                          }));
 }
 
 }  // namespace mirune

@@ -12,6 +12,7 @@
 #include "timelines/quote_entries.hpp"
 #include "timelines/task_entries.hpp"
 #include "timelines/task_event_entries.hpp"
+#include "timelines/thought_of_the_day.hpp"
 
 namespace mirune {
 namespace {
@@ -51,6 +52,8 @@ TEST(RecordedTimelines, AreBuiltAlike) {
       quoteDates.push_back(foundation::formatMoment(entry.date));
     }
     EXPECT_EQ(differences(quoteDates, expected.at("quote").at("dates")), "") << "quote";
+    constexpr std::size_t thoughts = 140;
+    EXPECT_EQ(thoughtIndexToday(platform, thoughts), expected.at("quote").at("index"));
 
     EXPECT_EQ(MoodProvider::policy(platform).json().at("after"), expected.at("reload").get<std::string>());
     EXPECT_EQ(foundation::dayKey(platform.now, platform.calendar.timeZone()), expected.at("key"));
