@@ -1,6 +1,8 @@
 #include "catalogue/widgets.hpp"
 
 #include "calendar_mood/calendar_month_view.hpp"
+#include "calendar_mood/mood_chart_view.hpp"
+#include "calendar_mood/mood_check_in_view.hpp"
 #include "catalogue/forced_theme.hpp"
 #include "catalogue/not_drawn_yet.hpp"
 #include "lists/event_widget_view_wrapper.hpp"
@@ -66,13 +68,13 @@ View onPaper(View content) {
 
 StaticConfiguration Mirune_Widgets5::body(const Platform& platform) const {
   return finished(
-      {kind, MoodProvider{}, [](const MoodEntry&) { return themed(NotDrawnYet{.widget = "Mood Check-In"}); }},
+      {kind, MoodProvider{}, [](const MoodEntry& entry) { return themed(Mirune_WidgetsEntryViewNew{.entry = entry}); }},
       {WidgetFamily::systemMedium, WidgetFamily::systemSmall},
       {.shortName = "mood", .displayName = "Mood Check-In", .description = "How are you feeling today?"}, platform);
 }
 
 StaticConfiguration Mirune_Widgets6::body(const Platform& platform) const {
-  return finished({kind, MoodProvider{}, [](const MoodEntry&) { return themed(NotDrawnYet{.widget = "Moods"}); }},
+  return finished({kind, MoodProvider{}, [](const MoodEntry& entry) { return themed(MoodChartView{.entry = entry}); }},
                   {WidgetFamily::systemSmall, WidgetFamily::systemLarge},
                   {.shortName = "moods", .displayName = "Moods", .description = "Monthly moods view"}, platform);
 }

@@ -2,6 +2,8 @@
 
 #include "catalogue/widgets.hpp"
 #include "completion/task_intent.hpp"
+#include "device/device_name.hpp"
+#include "device/ui_device.hpp"
 #include "shared/diagnosis.hpp"
 #include "shared/share_resources.hpp"
 
@@ -30,6 +32,10 @@ bool Mirune_WidgetsColl::perform(const std::string& intent, const foundation::JS
 
 messages::Diagnosis Mirune_WidgetsColl::diagnose(const uikit::Platform& platform) const {
   return diagnoseContainer(platform);
+}
+
+std::string Mirune_WidgetsColl::nameDevice(const std::optional<std::string>& identifier) const {
+  return identifier ? deviceName(*identifier, UIDevice::simulatedModel()) : UIDevice::modelName();
 }
 
 }  // namespace mirune

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "uikit/platform.hpp"
@@ -22,6 +24,9 @@ class Mirune_WidgetsColl {
   bool perform(const std::string& intent, const foundation::JSON& parameters, const uikit::Platform& platform) const;
 
   messages::Diagnosis diagnose(const uikit::Platform& platform) const;
+
+  /// The marketing name of a model, or of the device that this runs on.
+  std::string nameDevice(const std::optional<std::string>& identifier) const;
 };
 
 }  // namespace mirune

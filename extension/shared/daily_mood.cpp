@@ -1,5 +1,7 @@
 #include "shared/daily_mood.hpp"
 
+#include "shared/group_data_manager.hpp"
+
 namespace mirune {
 
 void decode(foundation::JSONValue value, MiruneDailyMood& mood) {
@@ -7,6 +9,12 @@ void decode(foundation::JSONValue value, MiruneDailyMood& mood) {
                            foundation::required("icon", mood.icon), foundation::required("color", mood.color),
                            foundation::required("isOriginalColor", mood.isOriginalColor),
                            foundation::required("hasBeenDeleted", mood.hasBeenDeleted));
+}
+
+MoodFile readMoodFile(const uikit::Platform& platform) {
+  const auto bytes = GroupDataManager::read(platform, "moods");
+  if (!bytes) return {};
+  return foundation::decodeJSON<MoodFile>(*bytes).value_or(MoodFile{});
 }
 
 }  // namespace mirune

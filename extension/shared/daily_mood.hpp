@@ -4,6 +4,7 @@
 #include <string>
 
 #include "foundation/json_decoder.hpp"
+#include "uikit/platform.hpp"
 
 namespace mirune {
 
@@ -23,5 +24,8 @@ void decode(foundation::JSONValue value, MiruneDailyMood& mood);
 
 /// The moods of the days, by day key ("2026/11/21"); each day carries its whole mood.
 using MoodFile = std::map<std::string, MiruneDailyMood, std::less<>>;
+
+/// The mood file, read afresh. One that is missing, or of which anything does not decode, is empty.
+MoodFile readMoodFile(const uikit::Platform& platform);
 
 }  // namespace mirune

@@ -2,6 +2,7 @@
 
 #include "timelines/calendar_entries.hpp"
 #include "timelines/event_entries.hpp"
+#include "timelines/mood_entries.hpp"
 #include "timelines/quote_entries.hpp"
 #include "timelines/task_entries.hpp"
 #include "timelines/task_event_entries.hpp"
@@ -51,10 +52,8 @@ CalendarEntry CalendarProvider::fallback(const uikit::Platform& platform) {
   return calendarEntry(platform.calendar, platform.now);
 }
 
-// The builder of moods is not there yet: its list is empty, and placeholder and snapshot show the fallback.
-
-std::vector<MoodEntry> MoodProvider::entries(const uikit::Platform&) {
-  return {};
+std::vector<MoodEntry> MoodProvider::entries(const uikit::Platform& platform) {
+  return moodEntries(platform);
 }
 MoodEntry MoodProvider::fallback(const uikit::Platform& platform) {
   return {.date = platform.now, .text = platform.words.localized("Moods"), .day = 1};

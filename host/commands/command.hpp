@@ -49,5 +49,6 @@ Command sheetCommand();
 Command tapCommand();
 Command demoCommand();
 Command doctorCommand();
+Command deviceNameCommand();
 
 }  // namespace host

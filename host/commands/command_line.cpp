@@ -34,8 +34,9 @@ std::map<const CLI::App*, Run> declareCommands(CLI::App& app, const Surroundings
   app.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
   app.footer("Exit codes: 0 done, 1 failed, 2 usage. mirune COMMAND --help explains a command.");
   std::map<const CLI::App*, Run> runs;
-  for (const auto& command : {galleryCommand(), timelineCommand(), placeholderCommand(), snapshotCommand(),
-                              renderCommand(), sheetCommand(), tapCommand(), demoCommand(), doctorCommand()}) {
+  for (const auto& command :
+       {galleryCommand(), timelineCommand(), placeholderCommand(), snapshotCommand(), renderCommand(), sheetCommand(),
+        tapCommand(), demoCommand(), doctorCommand(), deviceNameCommand()}) {
     auto* subcommand = app.add_subcommand(command.name, command.summary);
     runs[subcommand] = command.declare(*subcommand, surroundings);
   }

@@ -35,12 +35,14 @@ void WorldOptions::addTo(CLI::App& app) {
   add("--screen", world_.screen, "WxH", "Screen in points, portrait (else 390x844)");
   add("--system-version", world_.systemVersion, "N", "Major version of the platform (else 17)");
   add("--appearance", world_.appearance, "light|dark", "What the system is set to (else light)");
+  add("--planner-url", world_.plannerURL, "URL", "Where links of widgets lead to (else https://planner.example)");
 }
 
 std::expected<messages::World, messages::Failure> WorldOptions::world() const {
   const auto now = moment("--now", now_, world_.now);
   if (!now) return std::unexpected(now.error());
   if (!isUTF8(world_.container)) return usage("the container's path is not UTF-8 text");
+  if (!isUTF8(world_.plannerURL)) return usage("--planner-url: is not UTF-8 text");
   auto world = world_;
   world.now = *now;
   world.container = absolutePath(world.container);

@@ -93,6 +93,18 @@ std::size_t characterCount(std::string_view text) {
   return count;
 }
 
+std::optional<std::int64_t> decimalInteger(std::string_view text) {
+  // std::from_chars takes a minus but no plus.
+  if (text.starts_with('+')) {
+    text.remove_prefix(1);
+    if (text.starts_with('-')) return std::nullopt;
+  }
+  std::int64_t value = 0;
+  const char* const end = text.data() + text.size();
+  const auto [rest, error] = std::from_chars(text.data(), end, value);
+  return error == std::errc() && rest == end ? std::optional(value) : std::nullopt;
+}
+
 std::uint64_t leadingHexadecimal(std::string_view text) {
   const auto read = [](std::string_view digits) -> std::optional<std::uint64_t> {
     std::uint64_t value = 0;

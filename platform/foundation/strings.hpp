@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -21,6 +22,10 @@ std::string_view trimmedToAlphanumerics(std::string_view text);
 
 /// The number of characters that a reader sees: a letter with its accents is one.
 std::size_t characterCount(std::string_view text);
+
+/// The number that the text as a whole is in ASCII digits, with a sign or without. Nothing for all else, nor where it
+/// is too large.
+std::optional<std::int64_t> decimalInteger(std::string_view text);
 
 /// The number that the text begins with in hexadecimal digits, after "0x" or "0X" if digits follow that. 0 where there
 /// is no digit, the greatest number where it is too large.

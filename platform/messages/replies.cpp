@@ -23,6 +23,7 @@ constexpr const char* picture = "picture";
 constexpr const char* done = "done";
 constexpr const char* progress = "progress";
 constexpr const char* diagnosis = "diagnosis";
+constexpr const char* deviceName = "deviceName";
 
 JSON widgetJSON(const WidgetDescription& widget) {
   return {{"kind", widget.kind},
@@ -78,6 +79,7 @@ struct ToJSON {
     for (const FileDiagnosis& file : reply.files) files.push_back(fileJSON(file));
     return {{"reply", diagnosis}, {"hasContainer", reply.hasContainer}, {"files", std::move(files)}};
   }
+  JSON operator()(const DeviceName& reply) const { return {{"reply", deviceName}, {"name", reply.name}}; }
 };
 
 }  // namespace
@@ -109,6 +111,8 @@ void from_json(const JSON& json, Reply& reply) {
     Diagnosis read{.hasContainer = json.at("hasContainer").get<bool>()};
     for (const JSON& file : field<std::vector<JSON>>(json, "files")) read.files.push_back(fileFrom(file));
     reply = std::move(read);
+  } else if (name == deviceName) {
+    reply = DeviceName{.name = field<std::string>(json, "name")};
   } else {
     failField(json, "reply", "none of the known ones");
   }

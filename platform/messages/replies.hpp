@@ -81,6 +81,12 @@ struct Diagnosis {
   friend bool operator==(const Diagnosis&, const Diagnosis&) = default;
 };
 
+/// What a device is called.
+struct DeviceName {
+  std::string name = {};
+  friend bool operator==(const DeviceName&, const DeviceName&) = default;
+};
+
 /// Why a request was not answered.
 struct Failure {
   /// usage: the request asks for something that does not exist; the message lists what does.
@@ -90,7 +96,7 @@ struct Failure {
   friend bool operator==(const Failure&, const Failure&) = default;
 };
 
-using Reply = std::variant<Failure, Catalogue, Timeline, Picture, Done, Progress, Diagnosis>;
+using Reply = std::variant<Failure, Catalogue, Timeline, Picture, Done, Progress, Diagnosis, DeviceName>;
 
 /// The header of a reply: {"reply": NAME, …its fields…}. A Picture's bytes are left out.
 void to_json(foundation::JSON& json, const Reply& reply);

@@ -24,6 +24,7 @@ constexpr const char* drawEntry = "drawEntry";
 constexpr const char* drawSheet = "drawSheet";
 constexpr const char* performIntent = "performIntent";
 constexpr const char* diagnoseContainer = "diagnoseContainer";
+constexpr const char* nameDevice = "nameDevice";
 
 struct ToJSON {
   JSON operator()(const DescribeCatalogue&) const { return {{"request", describeCatalogue}}; }
@@ -45,6 +46,9 @@ struct ToJSON {
     return {{"request", performIntent}, {"intent", request.intent}, {"parameters", request.parameters}};
   }
   JSON operator()(const DiagnoseContainer&) const { return {{"request", diagnoseContainer}}; }
+  JSON operator()(const NameDevice& request) const {
+    return {{"request", nameDevice}, {"identifier", JSON(request.identifier)}};
+  }
 };
 
 Request requestFrom(const JSON& json) {
@@ -68,6 +72,7 @@ Request requestFrom(const JSON& json) {
     return PerformIntent{.intent = field<std::string>(json, "intent"), .parameters = json.at("parameters")};
   }
   if (name == diagnoseContainer) return DiagnoseContainer{};
+  if (name == nameDevice) return NameDevice{.identifier = json.at("identifier").get<std::optional<std::string>>()};
   failField(json, "request", "none of the known ones");
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <variant>
 
@@ -63,7 +64,14 @@ struct DiagnoseContainer {
   friend bool operator==(const DiagnoseContainer&, const DiagnoseContainer&) = default;
 };
 
-using Request = std::variant<DescribeCatalogue, AskProvider, DrawEntry, DrawSheet, PerformIntent, DiagnoseContainer>;
+/// What is a device of that model called, or the one that the extension runs on? Answered by a DeviceName.
+struct NameDevice {
+  std::optional<std::string> identifier = std::nullopt;  ///< as a kernel reports it: "iPhone9,4"
+  friend bool operator==(const NameDevice&, const NameDevice&) = default;
+};
+
+using Request =
+    std::variant<DescribeCatalogue, AskProvider, DrawEntry, DrawSheet, PerformIntent, DiagnoseContainer, NameDevice>;
 
 /// A request and the world in which it is answered. On the wire: {"request": NAME, …its fields…, "world": {…}}.
 struct Envelope {

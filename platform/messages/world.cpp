@@ -14,7 +14,8 @@ void to_json(JSON& json, const World& world) {
           {"container", world.container},
           {"screen", world.screen},
           {"systemVersion", world.systemVersion},
-          {"appearance", world.appearance}};
+          {"appearance", world.appearance},
+          {"plannerURL", world.plannerURL}};
 }
 
 void from_json(const JSON& json, World& world) {
@@ -24,7 +25,8 @@ void from_json(const JSON& json, World& world) {
            .container = field<std::string>(json, "container"),
            .screen = field<std::string>(json, "screen"),
            .systemVersion = integerField(json, "systemVersion"),
-           .appearance = field<std::string>(json, "appearance")};
+           .appearance = field<std::string>(json, "appearance"),
+           .plannerURL = field<std::string>(json, "plannerURL")};
 }
 
 }  // namespace messages

@@ -11,12 +11,13 @@ namespace messages {
 /// so that any answer can be had again. Texts are as the user gave them; the extension checks them.
 struct World {
   foundation::Date now = {};
-  std::string timeZone = "UTC";      ///< "Europe/Berlin"
-  std::string locale = "en_US";      ///< "de_DE"
-  std::string container = {};        ///< the app group's folder; may be missing
-  std::string screen = "390x844";    ///< WIDTHxHEIGHT in points, portrait
-  int systemVersion = 17;            ///< the platform's major version
-  std::string appearance = "light";  ///< what the system is set to: "light" or "dark"
+  std::string timeZone = "UTC";                        ///< "Europe/Berlin"
+  std::string locale = "en_US";                        ///< "de_DE"
+  std::string container = {};                          ///< the app group's folder; may be missing
+  std::string screen = "390x844";                      ///< WIDTHxHEIGHT in points, portrait
+  int systemVersion = 17;                              ///< the platform's major version
+  std::string appearance = "light";                    ///< what the system is set to: "light" or "dark"
+  std::string plannerURL = "https://planner.example";  ///< where the planner's pages are: what links lead to
 
   friend bool operator==(const World&, const World&) = default;
 };

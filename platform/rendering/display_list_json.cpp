@@ -96,6 +96,11 @@ void describe(JSON& entry, const GaugeMeaning& gauge) {
   entry["total"] = jsonOfLength(gauge.total);
 }
 
+void describe(JSON& entry, const LinkMeaning& link) {
+  entry["role"] = "link";
+  entry["url"] = link.url;
+}
+
 }  // namespace
 
 JSON jsonOfLength(double points) {
@@ -116,7 +121,7 @@ JSON jsonOf(const DisplayList& list) {
 JSON jsonOf(const Meaning& meaning) {
   JSON json = JSON::array();
   for (const MeaningItem& item : meaning) {
-    JSON entry{{"role", "text"}, {"label", item.label}};
+    JSON entry{{"role", item.isImage ? "image" : "text"}, {"label", item.label}};
     if (item.control) std::visit([&](const auto& control) { describe(entry, control); }, *item.control);
     entry["frame"] = jsonOf(item.frame);
     json.push_back(std::move(entry));

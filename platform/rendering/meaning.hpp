@@ -13,17 +13,18 @@ namespace rendering {
 struct MeaningItem {
   std::string label = {};
   swiftui::Rect frame = {};
+  bool isImage = false;
   std::optional<swiftui::Control> control = std::nullopt;
 };
 
 /// What a widget says, in reading order. Texts are whole even where the picture cuts them; what cannot be seen is not
-/// said.
+/// said, and images without a label are decoration. A link without any text is called by its address.
 using Meaning = std::vector<MeaningItem>;
 
 void collectMeaning(const swiftui::PlacedElement& placed, Meaning& meaning);
 
-/// One line for each item: the text, "[ ] label", "[x] label", or "label (2 of 5)". Line breaks within a label become
-/// blanks.
+/// One line for each item: the text, "[ ] label", "[x] label", "label (2 of 5)" or "label <address>". Line breaks
+/// within a label become blanks.
 std::string plainText(const Meaning& meaning);
 
 }  // namespace rendering

@@ -41,7 +41,12 @@ Scene compose(const ResolvedWidget& widget, const SceneOptions& options, const L
   add(widget.content, {.origin = {.x = left, .y = margins.top},
                        .size = {.width = options.size.width - margins.leading - margins.trailing,
                                 .height = options.size.height - margins.top - margins.bottom}});
+  scene.url = widget.url;
   return scene;
+}
+
+std::string plainText(const Scene& scene) {
+  return plainText(scene.meaning) + (scene.url ? "<" + *scene.url + ">\n" : "");
 }
 
 }  // namespace rendering

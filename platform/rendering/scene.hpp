@@ -13,6 +13,7 @@ struct Scene {
   uikit::ColorScheme colorScheme = uikit::ColorScheme::light;  ///< of its content
   DisplayList drawn = {};
   Meaning meaning = {};
+  std::optional<std::string> url = std::nullopt;  ///< where a tap leads that meets no control
 };
 
 struct SceneOptions {
@@ -27,5 +28,8 @@ struct SceneOptions {
 /// Lays the widget out: its background over the whole, its content within the margins.
 Scene compose(const swiftui::ResolvedWidget& widget, const SceneOptions& options,
               const swiftui::LeafMeasurer& measurer);
+
+/// The plain text of its meaning, and a last line "<address>" where the widget itself leads to one.
+std::string plainText(const Scene& scene);
 
 }  // namespace rendering

@@ -47,7 +47,10 @@ struct GaugeMeaning {
   double value = 0;
   double total = 1;
 };
-using Control = std::variant<ToggleMeaning, GaugeMeaning>;
+struct LinkMeaning {
+  std::string url = {};
+};
+using Control = std::variant<ToggleMeaning, GaugeMeaning, LinkMeaning>;
 
 struct Element;
 
@@ -129,10 +132,11 @@ struct Element {
   std::vector<Element> children = {};
 };
 
-/// A widget's content and what the system draws behind it.
+/// A widget's content, what the system draws behind it, and where it leads.
 struct ResolvedWidget {
   Element content = {};
   std::optional<Element> containerBackground = std::nullopt;
+  std::optional<std::string> url = std::nullopt;  ///< where a tap on the widget itself leads
 };
 
 /// Asks all components for their bodies and works the environment into the leaves.

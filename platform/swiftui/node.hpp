@@ -81,6 +81,10 @@ struct ContainerBackgroundNode {
   View content;
   View background;
 };
+struct WidgetURLNode {
+  View content;
+  std::string url = {};
+};
 struct EnvironmentNode {
   EnvironmentChange change = {};
   View content;
@@ -94,6 +98,10 @@ struct GaugeNode {
   View label;
   View currentValueLabel;
 };
+struct LinkNode {
+  std::string url = {};
+  View label;
+};
 struct ViewThatFitsNode {
   std::vector<View> candidates = {};
 };
@@ -104,7 +112,8 @@ struct GeometryReaderNode {
 struct Node {
   std::variant<EmptyNode, GroupNode, ComponentNode, TextNode, ImageNode, ShapeNode, SpacerNode, StackNode, ZStackNode,
                PaddingNode, FixedFrameNode, FlexibleFrameNode, FixedSizeNode, LayoutPriorityNode, OffsetNode, LayerNode,
-               ContainerBackgroundNode, EnvironmentNode, ToggleNode, GaugeNode, ViewThatFitsNode, GeometryReaderNode>
+               ContainerBackgroundNode, WidgetURLNode, EnvironmentNode, ToggleNode, GaugeNode, LinkNode,
+               ViewThatFitsNode, GeometryReaderNode>
       value = EmptyNode{};
 };
 

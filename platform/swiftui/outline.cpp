@@ -19,6 +19,15 @@ std::string nameOf(const Shape& shape) {
                     shape);
 }
 
+std::string nameOf(const Control& control) {
+  return std::visit(Overload{
+                        [](const ToggleMeaning&) { return "toggle"; },
+                        [](const GaugeMeaning&) { return "gauge"; },
+                        [](const LinkMeaning&) { return "link"; },
+                    },
+                    control);
+}
+
 std::string nameOf(const PlacedElement& placed) {
   return std::visit(
       Overload{
@@ -35,9 +44,7 @@ std::string nameOf(const PlacedElement& placed) {
           [](const LayoutPriorityElement&) { return std::string("layoutPriority"); },
           [](const OffsetElement&) { return std::string("offset"); },
           [](const LayerElement& layer) { return std::string(layer.isBehind ? "background" : "overlay"); },
-          [](const ControlElement& control) {
-            return std::string(std::holds_alternative<ToggleMeaning>(control.control) ? "toggle" : "gauge");
-          },
+          [](const ControlElement& control) { return nameOf(control.control); },
           [](const ViewThatFitsElement&) { return std::string("viewThatFits"); },
           [](const GeometryReaderElement&) { return std::string("geometryReader"); },
       },

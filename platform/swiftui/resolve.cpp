@@ -6,7 +6,8 @@
 namespace swiftui {
 namespace {
 
-/// Resolves one widget; keeps the container background that it meets on the way (the outermost one wins).
+/// Resolves one widget; keeps the container background and the address that it meets on the way (the
+/// outermost ones win).
 class Resolver {
  public:
   Element single(const View& view, const EnvironmentValues& environment) {
@@ -17,6 +18,7 @@ class Resolver {
   }
 
   std::optional<Element> containerBackground;
+  std::optional<std::string> url;
 
  private:
   using Elements = std::vector<Element>;
@@ -107,6 +109,11 @@ class Resolver {
     containerBackground = single(node.background, environment);
   }
 
+  void append(const WidgetURLNode& node, const EnvironmentValues& environment, Elements& out) {
+    append(node.content, environment, out);
+    url = node.url;
+  }
+
   void append(const ToggleNode& node, const EnvironmentValues& environment, Elements& out) {
     const View look = environment.toggleStyle
                           ? environment.toggleStyle->makeBody({.isOn = node.options.isOn, .label = node.label})
@@ -120,6 +127,10 @@ class Resolver {
     out.push_back(
         {.value = ControlElement{.control = GaugeMeaning{.value = node.options.value, .total = node.options.total}},
          .children = {single(look, environment)}});
+  }
+  void append(const LinkNode& node, const EnvironmentValues& environment, Elements& out) {
+    out.push_back({.value = ControlElement{.control = LinkMeaning{.url = node.url}},
+                   .children = {single(node.label, environment)}});
   }
   void append(const ViewThatFitsNode& node, const EnvironmentValues& environment, Elements& out) {
     out.push_back({.value = ViewThatFitsElement{}, .children = all(node.candidates, environment)});
@@ -177,6 +188,7 @@ ResolvedWidget resolve(const View& view, const EnvironmentValues& environment) {
   ResolvedWidget widget;
   widget.content = resolver.single(view, environment);
   widget.containerBackground = std::move(resolver.containerBackground);
+  widget.url = std::move(resolver.url);
   return widget;
 }
 

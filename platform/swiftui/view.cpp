@@ -47,6 +47,10 @@ View View::containerBackground(View background) const {
   return View(Node{ContainerBackgroundNode{.content = *this, .background = std::move(background)}});
 }
 
+View View::widgetURL(std::string url) const {
+  return View(Node{WidgetURLNode{.content = *this, .url = std::move(url)}});
+}
+
 View View::font(Font font) const {
   return changing(SetFont{.font = std::move(font)});
 }
@@ -126,6 +130,9 @@ View zstack(Alignment alignment, std::vector<View> children) {
 View gauge(GaugeOptions options, View label, View currentValueLabel) {
   return View(Node{
       GaugeNode{.options = options, .label = std::move(label), .currentValueLabel = std::move(currentValueLabel)}});
+}
+View link(std::string url, View label) {
+  return View(Node{LinkNode{.url = std::move(url), .label = std::move(label)}});
 }
 View viewThatFits(std::vector<View> candidates) {
   return View(Node{ViewThatFitsNode{.candidates = std::move(candidates)}});

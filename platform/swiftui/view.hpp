@@ -75,6 +75,8 @@ class View {
   /// Lays another view behind, or over, this one; it is proposed this one's size and takes no part in the layout.
   View background(View secondary, Alignment alignment = Alignment::center) const;
   View overlay(View secondary, Alignment alignment = Alignment::center) const;
+  /// Where a tap on the widget leads that meets no link and no control. Of several the outermost counts.
+  View widgetURL(std::string url) const;
   /// What the system draws behind the whole widget.
   View containerBackground(View background) const;
 
@@ -132,6 +134,7 @@ struct ImageOptions {
   /// Where a picture is looked for that is not one of the extension's assets; empty for nowhere. Its files are somebody
   /// else's and may change at any time: see rendering/icon_folder.hpp.
   std::filesystem::path folder = {};
+  std::string label = {};  ///< what it shows, for those who cannot see it; empty for decoration
 };
 
 /// A picture of the extension's assets, by name, at its own size. One without a file of that name draws nothing.
@@ -184,6 +187,9 @@ struct GaugeOptions {
 };
 /// The label stands in the ring's opening, the value's label in its middle. A reader meets both as one.
 View gauge(GaugeOptions options, View label, View currentValueLabel);
+
+/// A label that leads to an address. Its texts say what it is.
+View link(std::string url, View label);
 
 /// The first of these whose ideal size fits into what is offered; the last one where none does.
 View viewThatFits(std::vector<View> candidates);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 #include "foundation/calendar.hpp"
 #include "foundation/date.hpp"
@@ -23,6 +24,7 @@ struct Platform {
   Screen screen = {};
   int systemVersion = 17;  ///< the platform's major version
   ColorScheme appearance = ColorScheme::light;
+  std::string plannerURL = "https://planner.example";  ///< begins every link; no slash at its end
   std::filesystem::path resources = {};  ///< the folder of what comes with the extension: fonts, pictures, words
   foundation::RandomSource random = foundation::systemRandomSource();
   foundation::DebugLog log = foundation::standardOutputLog();

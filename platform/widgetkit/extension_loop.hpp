@@ -19,7 +19,8 @@ int runBundle(const Bundle& bundle, ExtensionResources resources) {
       {.widgets = [&](const uikit::Platform& platform) { return bundle.body(platform); },
        .perform = [&](const std::string& intent, const foundation::JSON& parameters,
                       const uikit::Platform& platform) { return bundle.perform(intent, parameters, platform); },
-       .diagnose = [&](const uikit::Platform& platform) { return bundle.diagnose(platform); }},
+       .diagnose = [&](const uikit::Platform& platform) { return bundle.diagnose(platform); },
+       .nameDevice = [&](const std::optional<std::string>& identifier) { return bundle.nameDevice(identifier); }},
       std::move(resources));
   return serveHost(service, hostDescriptor);
 }

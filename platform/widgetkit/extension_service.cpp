@@ -78,7 +78,7 @@ Reply ExtensionService::answer(const messages::DrawEntry& request, const uikit::
   if (const auto refused = refusedScale(request.scale)) return *refused;
   const rendering::Scene scene = sceneOf(*widget, *family, request.entry, platform, request.scale, renderer());
   using enum messages::PictureFormat;
-  if (request.format == text) return messages::Picture{.bytes = rendering::plainText(scene.meaning)};
+  if (request.format == text) return messages::Picture{.bytes = rendering::plainText(scene)};
   if (request.format == json) return messages::Picture{.bytes = documentOf(scene, widget->kind(), *family)};
   return messages::Picture{
       .bytes = pictureOf(rendering::alone(scene), request.format, request.scale, platform.now, renderer())};
@@ -99,6 +99,10 @@ Reply ExtensionService::answer(const messages::PerformIntent& request, const uik
 
 Reply ExtensionService::answer(const messages::DiagnoseContainer&, const uikit::Platform& platform) const {
   return content_.diagnose(platform);
+}
+
+Reply ExtensionService::answer(const messages::NameDevice& request, const uikit::Platform&) const {
+  return messages::DeviceName{.name = content_.nameDevice(request.identifier)};
 }
 
 const rendering::Renderer& ExtensionService::renderer() {

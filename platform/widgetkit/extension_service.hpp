@@ -17,6 +17,7 @@ struct ExtensionContent {
   std::function<bool(const std::string& intent, const foundation::JSON& parameters, const uikit::Platform&)> perform =
       nullptr;
   std::function<messages::Diagnosis(const uikit::Platform&)> diagnose = nullptr;
+  std::function<std::string(const std::optional<std::string>& identifier)> nameDevice = nullptr;
 };
 
 /// Answers requests. Of what a request brings nothing is kept for the next; fonts and pictures once read are.
@@ -37,6 +38,7 @@ class ExtensionService {
   messages::Reply answer(const messages::DrawSheet& request, const uikit::Platform& platform);
   messages::Reply answer(const messages::PerformIntent& request, const uikit::Platform& platform) const;
   messages::Reply answer(const messages::DiagnoseContainer& request, const uikit::Platform& platform) const;
+  messages::Reply answer(const messages::NameDevice& request, const uikit::Platform& platform) const;
 
   /// Made when something is first drawn: a process that only builds timelines needs no fonts.
   const rendering::Renderer& renderer();

@@ -1,5 +1,7 @@
 #include "widgetkit/request_platform.hpp"
 
+#include "uikit/base_url.hpp"
+
 namespace widgetkit {
 namespace {
 
@@ -29,6 +31,10 @@ std::expected<uikit::Platform, Failure> platformFor(const messages::World& world
   if (world.appearance != "light" && world.appearance != "dark") {
     return refused("appearance", world.appearance, "light or dark");
   }
+  const auto plannerURL = uikit::baseURL(world.plannerURL);
+  if (!plannerURL) {
+    return refused("planner address", world.plannerURL, "SCHEME://HOST[/PATH] such as https://planner.example");
+  }
   return uikit::Platform{
       .now = world.now,
       .calendar = foundation::Calendar(*locale, *timeZone),
@@ -37,6 +43,7 @@ std::expected<uikit::Platform, Failure> platformFor(const messages::World& world
       .screen = *screen,
       .systemVersion = world.systemVersion,
       .appearance = world.appearance == "dark" ? uikit::ColorScheme::dark : uikit::ColorScheme::light,
+      .plannerURL = *plannerURL,
       .resources = resources.folder,
       .log = resources.log,
   };

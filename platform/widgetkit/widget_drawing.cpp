@@ -58,13 +58,14 @@ std::string pictureOf(const rendering::Composition& composition, messages::Pictu
 }
 
 std::string documentOf(const rendering::Scene& scene, const std::string& kind, WidgetFamily family) {
-  const foundation::JSON document{{"kind", kind},
-                                  {"family", swiftui::nameOf(family)},
-                                  {"width", rendering::jsonOfLength(scene.size.width)},
-                                  {"height", rendering::jsonOfLength(scene.size.height)},
-                                  {"colorScheme", scene.colorScheme == uikit::ColorScheme::dark ? "dark" : "light"},
-                                  {"drawn", rendering::jsonOf(scene.drawn)},
-                                  {"meaning", rendering::jsonOf(scene.meaning)}};
+  foundation::JSON document{{"kind", kind},
+                            {"family", swiftui::nameOf(family)},
+                            {"width", rendering::jsonOfLength(scene.size.width)},
+                            {"height", rendering::jsonOfLength(scene.size.height)},
+                            {"colorScheme", scene.colorScheme == uikit::ColorScheme::dark ? "dark" : "light"}};
+  if (scene.url) document["url"] = *scene.url;
+  document["drawn"] = rendering::jsonOf(scene.drawn);
+  document["meaning"] = rendering::jsonOf(scene.meaning);
   return document.dump(2, ' ', false, foundation::JSON::error_handler_t::replace) + "\n";
 }
 

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
+#include "support/recorded_cases.hpp"
+
 namespace foundation {
 namespace {
 
@@ -28,6 +32,17 @@ TEST(Strings, AreFilledAtTheirFirstPlaceholder) {
   EXPECT_EQ(filled("%lld of %lld", 1234567), "1234567 of %lld");
   EXPECT_EQ(filled("noch %lld", -3), "noch -3");
   EXPECT_EQ(filled("100%", 3), "100%");
+}
+
+TEST(Strings, ReadDecimalIntegersAsRecorded) {
+  for (const auto& row : support::recordedCases("platform/integers.json")) {
+    const auto value = decimalInteger(row["text"].get<std::string>());
+    EXPECT_EQ(value ? nlohmann::json(*value) : nlohmann::json(), row["value"]) << row["text"];
+  }
+  EXPECT_EQ(decimalInteger("-9223372036854775808"), std::numeric_limits<std::int64_t>::min());
+  for (const char* text : {"-9223372036854775809", "+-5", "-+5", "++5", "5-"}) {
+    EXPECT_EQ(decimalInteger(text), std::nullopt) << text;
+  }
 }
 
 }  // namespace

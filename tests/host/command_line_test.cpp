@@ -62,6 +62,7 @@ TEST_F(CommandLine, SaysInOneLineWhatIsWrong) {
       {"gallery --screen", 2, "--screen"},
       {"gallery --system-version x", 2, "--system-version"},
       {"gallery --container $(printf '\\377')", 2, "the container's path is not UTF-8 text"},
+      {"gallery --planner-url $(printf '\\377')", 2, "--planner-url: is not UTF-8 text"},
       {"gallery --now yesterday", 2, "--now: 'yesterday' is not a moment such as 2026-11-21T08:00:00Z"},
       {"timeline unknown", 2, "unknown kind 'unknown': tasks, moods"},
       {"timeline broken", 1, "a file is broken"},
@@ -100,7 +101,8 @@ TEST_F(CommandLine, HelpsOnStandardOutput) {
   EXPECT_EQ(help.exitCode, 0);
   EXPECT_EQ(help.error, "");
   EXPECT_EQ(help.output, run("--help").output);
-  for (const char* command : {"gallery", "timeline", "placeholder", "snapshot", "render", "tap", "demo", "doctor"}) {
+  for (const char* command :
+       {"gallery", "timeline", "placeholder", "snapshot", "render", "tap", "demo", "doctor", "device-name"}) {
     EXPECT_NE(help.output.find("\n  " + std::string(command) + " "), std::string::npos) << help.output;
     EXPECT_NE(run(command + std::string(" --help")).output.find("mirune " + std::string(command)), std::string::npos);
   }
@@ -136,16 +138,18 @@ TEST_F(CommandLine, TellsTheExtensionAboutTheWorld) {
                              {"container", path + "/data/mirune/group.quorvanthimble.app"},
                              {"screen", "390x844"},
                              {"systemVersion", 17},
-                             {"appearance", "light"}}));
+                             {"appearance", "light"},
+                             {"plannerURL", "https://planner.example"}}));
   EXPECT_EQ(world("--timezone Asia/Tokyo --locale ja_JP --container here --screen 320x568 --system-version 15 "
-                  "--appearance dark"),
+                  "--appearance dark --planner-url https://x/"),
             JSON({{"now", "2026-11-21T08:00:00Z"},
                   {"timeZone", "Asia/Tokyo"},
                   {"locale", "ja_JP"},
                   {"container", path + "/here"},
                   {"screen", "320x568"},
                   {"systemVersion", 15},
-                  {"appearance", "dark"}}));
+                  {"appearance", "dark"},
+                  {"plannerURL", "https://x/"}}));
 }
 
 TEST_F(CommandLine, RendersTheEntryOfTheMoment) {

@@ -15,7 +15,8 @@ const World world = {.now = foundation::parseMoment("2026-11-21T08:00:00.250Z").
                      .container = "/tmp/ü",
                      .screen = "320x568",
                      .systemVersion = 16,
-                     .appearance = "dark"};
+                     .appearance = "dark",
+                     .plannerURL = "planner://today"};
 
 TEST(Envelope, SurvivesTheWire) {
   const Request requests[] = {
@@ -30,6 +31,9 @@ TEST(Envelope, SurvivesTheWire) {
       DrawEntry{.format = PictureFormat::json},
       PerformIntent{.intent = "TaskIntent", .parameters = {{"id", "é\"/"}, {"date", nullptr}}},
       DiagnoseContainer{},
+      NameDevice{},
+      NameDevice{.identifier = ""},
+      NameDevice{.identifier = "iPhone9,4"},
   };
   for (const Request& request : requests) {
     const Envelope envelope = {.world = world, .request = request};
@@ -43,7 +47,7 @@ TEST(Envelope, LooksOnTheWireAsDocumented) {
   EXPECT_EQ(JSON(envelope).dump(),
             R"({"request":"askProvider","operation":"timeline","kind":"tasks","world":{)"
             R"("now":"2026-11-21T08:00:00.250Z","timeZone":"Europe/Berlin","locale":"de_DE","container":"/tmp/ü",)"
-            R"("screen":"320x568","systemVersion":16,"appearance":"dark"}})");
+            R"("screen":"320x568","systemVersion":16,"appearance":"dark","plannerURL":"planner://today"}})");
 }
 
 TEST(Envelope, RefusesWhatIsNoRequest) {
@@ -66,6 +70,7 @@ TEST(Envelope, RefusesWhatIsNoRequest) {
       {"/world/systemVersion", 5'000'000'000},
       {"/world/systemVersion", UINT64_MAX},
       {"/world/screen", JSON::object()},
+      {"/world/plannerURL", 5},
   };
   for (const auto& change : changes) {
     JSON json = drawing;
@@ -93,6 +98,7 @@ TEST(Reply, SurvivesTheWireButForThePicturesBytes) {
       Timeline{.entries = {JSON::array({1})}},
       Picture{},
       Done{},
+      DeviceName{.name = "iPhone 7 Plus"},
       Diagnosis{},
       Diagnosis{.hasContainer = true,
                 .files = {{.file = "a.json",

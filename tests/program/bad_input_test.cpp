@@ -44,6 +44,7 @@ TEST_F(BadInput, IsAnsweredInOneLine) {
       {"render tasks systemSmall -o a.png --at noon", 2, "'noon'", "2026-11-21T08:00:00Z"},
       {"timeline tasks --screen big", 2, "screen 'big'", "390x844"},
       {"timeline tasks --appearance blue", 2, "appearance 'blue'", "light or dark"},
+      {"timeline tasks --planner-url javascript://x", 2, "planner address 'javascript://x'", "https://planner.example"},
       {"timeline tasks --system-version 3", 2, "system version '3'", "14 to 99"},
       {"render tasks systemSmall -o none/a.png", 1, "none/a.png", "No such file or directory"},
       {"render tasks systemSmall -o a/.png", 2, "a/.png", ".png"},

@@ -76,5 +76,21 @@ TEST_F(RenderCommand, TakesEveryScaleThatItOffers) {
   EXPECT_FALSE(std::filesystem::exists(folder / "b.png"));
 }
 
+TEST(RenderedMoods, LeadToThePlanner) {
+  const support::TemporaryFolder folder;
+  const auto documentOf = [&](const std::string& widget) {
+    const auto result =
+        run(folder.path(), "render " + widget + " -o out.json --planner-url mirune://open/" + World().options());
+    EXPECT_EQ(result.exitCode, 0) << widget;
+    return nlohmann::json::parse(support::readBytes(folder / "out.json"), nullptr, false);
+  };
+  EXPECT_EQ(documentOf("mood systemSmall").at("url"), "mirune://open/mood/0");
+  EXPECT_EQ(documentOf("moods systemLarge").at("url"), "mirune://open/moodchart");
+  const auto medium = documentOf("mood systemMedium");
+  EXPECT_FALSE(medium.contains("url"));
+  EXPECT_EQ(medium.at("meaning").back().at("role"), "link");
+  EXPECT_EQ(medium.at("meaning").back().at("url"), "mirune://open/mood/0");
+}
+
 }  // namespace
 }  // namespace program

@@ -48,6 +48,27 @@ TEST(Meaning, IsWhatAReaderMeetsInOrder) {
             "two lines\n");
 }
 
+TEST(Meaning, NamesLinksAndImages) {
+  const View cat = resizableImage("cat", {.label = "Happy"});
+  const View shown = vstack({}, {
+                                    link("https://a/1", hstack({}, {cat, text("24")})),
+                                    link("https://a/2", resizableSymbol("plus")),
+                                    link("https://a/3", text("two\nlines")),
+                                    cat,
+                                    cat.accessibilityHidden(),
+                                    cat.opacity(0),
+                                    resizableImage("paper"),
+                                });
+  EXPECT_EQ(plainText(meaningOf(shown)),
+            "Happy, 24 <https://a/1>\n"
+            "https://a/2 <https://a/2>\n"
+            "two lines <https://a/3>\n"
+            "Happy\n");
+  EXPECT_EQ(jsonOf(meaningOf(link("https://a/1", text("24")), {40, 10})).dump(),
+            R"([{"role":"link","label":"24","url":"https://a/1","frame":[10,0,20,10]}])");
+  EXPECT_EQ(jsonOf(meaningOf(cat, {40, 10})).dump(), R"([{"role":"image","label":"Happy","frame":[0,0,40,10]}])");
+}
+
 TEST(Meaning, PrintsAsJSON) {
   const foundation::Date date = foundation::JSON("2026-11-21T08:00:00Z").get<foundation::Date>();
   const View box = toggle({.isOn = false, .intent = Complete{date}}, text("milk"));

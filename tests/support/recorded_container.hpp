@@ -89,6 +89,20 @@ inline nlohmann::json asRecorded(nlohmann::json entries, const std::string& list
   return entries;
 }
 
+/// The entries of moods as they were recorded: without the ids, which are random, and the days by their text, which are
+/// the days of the month once more.
+inline nlohmann::json asRecordedMoods(nlohmann::json entries) {
+  for (auto& entry : entries) {
+    for (const auto& day : entry.at("monthdata")) EXPECT_EQ(entry.at("monthdatadict").at(day.at("text")), day);
+    EXPECT_EQ(entry.at("monthdatadict").size(), entry.at("monthdata").size());
+    entry.erase("monthdatadict");
+    for (const char* list : {"data", "monthdata"}) {
+      for (auto& day : entry.at(list)) day.erase("id");
+    }
+  }
+  return entries;
+}
+
 /// Recorded events with the answered times where these are right: where either of two is recorded, that of the two that
 /// was answered; for locales that write times otherwise, any.
 inline nlohmann::json withTimesOf(const nlohmann::json& actual, nlohmann::json expected, const std::string& locale) {

@@ -115,5 +115,11 @@ TEST(ContainerBackground, IsTakenOutOfTheContentAndTheOutermostWins) {
   EXPECT_FALSE(resolve(text("a"), {}).containerBackground);
 }
 
+TEST(Resolving, KeepsTheOutermostAddressOfTheWidget) {
+  EXPECT_EQ(resolve(text("a"), {}).url, std::nullopt);
+  const View shown = vstack({}, {text("a").widgetURL("inner").padding(3)}).widgetURL("outer");
+  EXPECT_EQ(resolve(shown.font(system(9)), {}).url, "outer");
+}
+
 }  // namespace
 }  // namespace swiftui

@@ -32,6 +32,7 @@ struct ClockProvider {
 
 inline swiftui::View clockView(const ClockEntry& entry) {
   if (entry.word == "undrawable") throw DrawingError("no such hour");
+  if (entry.word == "link") return swiftui::link("https://a/b", swiftui::text("go")).widgetURL("https://a/");
   return swiftui::toggle({.isOn = true}, swiftui::text(entry.word))
       .containerBackground(swiftui::filled(swiftui::Rectangle{}).foregroundColor(uikit::RGBA{.red = 1}));
 }
@@ -55,7 +56,9 @@ inline ExtensionService clockService() {
       {.widgets = [](const uikit::Platform& platform) { return ClockBundle().body(platform); },
        .perform = [](const std::string& intent, const foundation::JSON& parameters,
                      const uikit::Platform&) { return intent == "Wind" && parameters.at("turns").get<int>() > 0; },
-       .diagnose = [](const uikit::Platform&) { return messages::Diagnosis{}; }},
+       .diagnose = [](const uikit::Platform&) { return messages::Diagnosis{}; },
+       .nameDevice =
+           [](const std::optional<std::string>& identifier) { return identifier.value_or("this") + " clock"; }},
       {.folder = "no resources"});
 }
 

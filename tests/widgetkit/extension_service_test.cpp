@@ -96,6 +96,17 @@ TEST(ExtensionService, DrawsAnEntryInEveryFormat) {
       "305.5");
 }
 
+TEST(ExtensionService, SaysWhereTapsLead) {
+  DrawEntry request{.kind = "clock", .family = "systemSmall", .entry = entry};
+  EXPECT_FALSE(documentOf(request).contains("url"));
+  request.entry["word"] = "link";
+  const JSON document = documentOf(request);
+  EXPECT_EQ(document["url"], "https://a/");
+  EXPECT_EQ(document["meaning"][0]["url"], "https://a/b");
+  request.format = PictureFormat::text;
+  EXPECT_EQ(bytesOf(request), "go <https://a/b>\n<https://a/>\n");
+}
+
 TEST(ExtensionService, FollowsTheDevice) {
   World dark = world;
   dark.appearance = "dark";
@@ -160,6 +171,14 @@ TEST(ExtensionService, SaysWhyItDoesNotAnswer) {
 TEST(ExtensionService, PerformsIntents) {
   EXPECT_TRUE(std::holds_alternative<messages::Done>(
       answered(messages::PerformIntent{.intent = "Wind", .parameters = {{"turns", 3}}})));
+}
+
+TEST(ExtensionService, NamesDevices) {
+  const auto named = [](const messages::NameDevice& request) {
+    return std::get<messages::DeviceName>(answered(request)).name;
+  };
+  EXPECT_EQ(named({}), "this clock");
+  EXPECT_EQ(named({.identifier = "old"}), "old clock");
 }
 
 TEST(ExtensionService, RefusesAWorldThatIsNone) {

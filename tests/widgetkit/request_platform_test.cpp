@@ -15,7 +15,8 @@ TEST(RequestPlatform, IsTheDeviceThatTheRequestDescribes) {
                     .container = "/somewhere",
                     .screen = "430x932",
                     .systemVersion = 16,
-                    .appearance = "dark"};
+                    .appearance = "dark",
+                    .plannerURL = "https://planner.example/app/"};
   const auto platform = platformFor(world, {.folder = "/resources"});
   ASSERT_TRUE(platform);
   EXPECT_EQ(platform->now, world.now);
@@ -23,6 +24,7 @@ TEST(RequestPlatform, IsTheDeviceThatTheRequestDescribes) {
   EXPECT_EQ(platform->screen, (uikit::Screen{.width = 430, .height = 932}));
   EXPECT_EQ(platform->systemVersion, 16);
   EXPECT_EQ(platform->appearance, uikit::ColorScheme::dark);
+  EXPECT_EQ(platform->plannerURL, "https://planner.example/app");
   EXPECT_EQ(platform->resources, "/resources");
 }
 
@@ -40,6 +42,7 @@ TEST(RequestPlatform, NamesWhatIsWrongAndWhatWouldBeRight) {
       {{.screen = "390x844x3"}, "screen '390x844x3'", "390x844"},
       {{.systemVersion = 13}, "system version '13'", "14 to 99"},
       {{.systemVersion = 100}, "system version '100'", "14 to 99"},
+      {{.plannerURL = "planner.example"}, "planner address 'planner.example'", "https://planner.example"},
       {{.appearance = "pink"}, "appearance 'pink'", "light or dark"},
   };
   for (const auto& row : rows) {

@@ -26,17 +26,13 @@ JSON policyOf(const uikit::Platform& platform) {
   return Provider().timeline(platform).policy.json();
 }
 
-TEST(Providers, FallBackInPlaceholderAndSnapshotOnly) {
+TEST(Providers, HaveAnEntryToFallBackOn) {
   Planner planner;
   const auto platform = planner.platform();
   const TaskEntry tasks{.date = moment(now), .name = "Tasks"};
   const EventEntry events{.date = moment(now), .name = "Events"};
 
-  const MoodEntry mood{.date = moment(now), .text = "Moods", .day = 1};
-  EXPECT_EQ(MoodProvider().placeholder(platform), mood);
-  EXPECT_EQ(MoodProvider().snapshot(platform), mood);
-  EXPECT_TRUE(MoodProvider().timeline(platform).entries.empty());
-
+  EXPECT_EQ(MoodProvider::fallback(platform), (MoodEntry{.date = moment(now), .text = "Moods", .day = 1}));
   EXPECT_EQ(TaskProvider::fallback(platform), tasks);
   EXPECT_EQ(EventProvider::fallback(platform), events);
   EXPECT_EQ(TaskAndEventProvider::fallback(platform),

@@ -7,6 +7,7 @@
 #include "timelines/calendar_entries.hpp"
 #include "timelines/entry_coding.hpp"
 #include "timelines/event_entries.hpp"
+#include "timelines/mood_entries.hpp"
 #include "timelines/providers.hpp"
 #include "timelines/quote_entries.hpp"
 #include "timelines/task_entries.hpp"
@@ -17,6 +18,7 @@ namespace mirune {
 namespace {
 
 using support::asRecorded;
+using support::asRecordedMoods;
 using support::differences;
 using support::withTimesOf;
 
@@ -42,6 +44,8 @@ TEST(RecordedTimelines, AreBuiltAlike) {
     EXPECT_EQ(differences(asRecorded(jsonOf(taskEventEntries(platform)), "combined"), expected.at("combined")), "")
         << "combined";
     EXPECT_EQ(differences(jsonOf(calendarEntries(platform)), expected.at("calendar")), "") << "calendar";
+
+    EXPECT_EQ(differences(asRecordedMoods(jsonOf(moodEntries(platform))), expected.at("moods")), "") << "moods";
 
     auto quoteDates = nlohmann::json::array();
     for (const SimpleEntry& entry : quoteEntries(platform)) {

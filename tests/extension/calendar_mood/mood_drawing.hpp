@@ -1,0 +1,72 @@
+#pragma once
+
+#include "calendar_mood/accent_color.hpp"
+#include "catalogue/widgets_bundle.hpp"
+#include "drawing.hpp"
+#include "timelines/entry_coding.hpp"
+#include "widgetkit/widget_drawing.hpp"
+
+namespace mirune {
+
+inline MiruneDailyMood someMood(const std::string& icon = "cat-circle_calm") {
+  return {.id = "calm", .name = "Calm", .icon = icon, .color = "#7DBF9E"};
+}
+
+/// An entry of a month in which every day has that mood, drawn on its `day`th day.
+inline MoodEntry moodEntryOf(int days, const MiruneDailyMood& mood, std::int64_t day = 21) {
+  MoodEntry entry{.date = moment("2026-11-21T08:00:00Z"), .text = "SEPTEMBER 2026", .day = day};
+  for (int number = 1; number <= days; ++number) {
+    entry.monthdata.push_back({.moodData = mood, .text = std::to_string(number)});
+  }
+  for (int number = 16; number <= 21; ++number) {
+    entry.data.push_back({.moodData = mood, .text = std::to_string(number)});
+  }
+  return entry;
+}
+
+/// "mood" or "moods" as the host has it drawn.
+inline rendering::Scene moodScene(const std::string& kind, const MoodEntry& entry, swiftui::WidgetFamily family,
+                                  const uikit::Platform& platform = platformAt({}, "")) {
+  for (const auto& widget : Mirune_WidgetsColl(MIRUNE_SHARE).body(platform)) {
+    if (widget.shortName() != kind) continue;
+    return widgetkit::sceneOf(widget, family, foundation::JSON(entry), platform, 2, realRenderer());
+  }
+  throw std::runtime_error("no widget " + kind);
+}
+
+/// The four screens that differ the most, and the narrowest of them.
+inline const std::vector<std::string> screens{"390x844", "375x667", "430x932", "320x568"};
+
+inline uikit::Platform platformOn(const std::string& screen) {
+  auto platform = platformAt({}, "");
+  platform.screen = uikit::Screen::parse(screen).value();
+  return platform;
+}
+
+inline void expectWithin(const rendering::Scene& scene, double margin) {
+  for (const auto& drawn : drawnBy(scene)) {
+    if (drawn.value("name", "") == "paper1new_widget") continue;
+    const auto& frame = drawn.at("frame");
+    const double x = frame.at(0);
+    const double y = frame.at(1);
+    EXPECT_GE(x, margin - 0.01) << drawn;
+    EXPECT_GE(y, margin - 0.01) << drawn;
+    EXPECT_LE(x + frame.at(2).get<double>(), scene.size.width - margin + 0.01) << drawn;
+    EXPECT_LE(y + frame.at(3).get<double>(), scene.size.height - margin + 0.01) << drawn;
+    EXPECT_EQ(drawn.value("text", "").find("…"), std::string::npos) << drawn;
+  }
+}
+
+/// That things are squares of one size, and how long their sides are.
+inline double sideOf(const std::vector<nlohmann::json>& things) {
+  double side = 0;
+  for (const auto& thing : things) {
+    const double width = thing.at("frame").at(2);
+    if (side == 0) side = width;
+    EXPECT_NEAR(width, side, 0.02) << thing;
+    EXPECT_NEAR(thing.at("frame").at(3).get<double>(), side, 0.02) << thing;
+  }
+  return side;
+}
+
+}  // namespace mirune
