@@ -1,6 +1,7 @@
 #include "timelines/event_entries.hpp"
 
 #include <algorithm>
+#include <map>
 #include <set>
 
 #include "foundation/date_formatter.hpp"
@@ -24,13 +25,32 @@ std::optional<Date> movedOnto(Date day, Date time, const foundation::Calendar& c
   return calendar.dateBySettingHour(static_cast<int>(hour), static_cast<int>(minute), 0, day);
 }
 
+/// Writes times of the day. A list of events has the same ones over and over.
+class TimeTexts {
+ public:
+  explicit TimeTexts(const foundation::Calendar& calendar)
+      : calendar_(calendar), formatter_(foundation::DateFormatter::shortTime(calendar)) {}
+
+  const std::string& operator()(Date time) {
+    const auto minuteOfDay =
+        60 * calendar_.component(CalendarComponent::hour, time) + calendar_.component(CalendarComponent::minute, time);
+    const auto [known, isNew] = texts_.try_emplace(minuteOfDay);
+    if (isNew) known->second = formatter_.string(time);
+    return known->second;
+  }
+
+ private:
+  const foundation::Calendar& calendar_;
+  foundation::DateFormatter formatter_;
+  std::map<std::int64_t, std::string> texts_;
+};
+
 /// Turns the items of a day into its events.
 class EventsOfDay {
  public:
-  explicit EventsOfDay(const uikit::Platform& platform)
-      : platform_(platform), time_(foundation::DateFormatter::shortTime(platform.calendar)) {}
+  explicit EventsOfDay(const uikit::Platform& platform) : platform_(platform), time_(platform.calendar) {}
 
-  DayOfEvents sorted(const std::vector<WidgetData>& items, Date day) const {
+  DayOfEvents sorted(const std::vector<WidgetData>& items, Date day) {
     std::vector<EventWidgetInner> events;
     for (const WidgetData& item : items) {
       if (item.type == WidgetDataType::event) events.push_back(event(item, day));
@@ -44,21 +64,21 @@ class EventsOfDay {
   }
 
  private:
-  EventWidgetInner event(const WidgetData& item, Date day) const {
+  EventWidgetInner event(const WidgetData& item, Date day) {
     const auto& calendar = platform_.calendar;
     const bool hasColor = item.colorHex && !item.colorHex->empty();
     return {.id = foundation::UUID::random(platform_.random),
             .title = item.title,
             .calid = item.calid,
             .color = hasColor ? uikit::Color(platformColorOfHex(*item.colorHex)) : uikit::SystemColor::label,
-            .time = time_.string(item.starttime) + " - " + time_.string(item.endtime),
+            .time = time_(item.starttime) + " - " + time_(item.endtime),
             .allday = item.allday,
             .starttime = movedOnto(day, item.starttime, calendar),
             .endtime = movedOnto(day, item.endtime, calendar)};
   }
 
   const uikit::Platform& platform_;
-  foundation::DateFormatter time_;
+  TimeTexts time_;
 };
 
 /// The moments at which the day's list changes, its start first, each once, in the order met.
@@ -106,7 +126,7 @@ std::vector<EventEntry> eventEntries(const uikit::Platform& platform) {
   const std::int64_t offset = fixedColorOffset(platform);
   const ItemFile items = readItemFile(platform, "events");
   const auto& calendar = platform.calendar;
-  const EventsOfDay eventsOfDay(platform);
+  EventsOfDay eventsOfDay(platform);
   const std::string name = platform.words.localized("Events");
   const Date start = calendar.startOfDay(platform.now);
   std::vector<EventEntry> entries;

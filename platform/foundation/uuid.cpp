@@ -1,7 +1,10 @@
 #include "foundation/uuid.hpp"
 
+#include <sys/random.h>
+
 #include <memory>
-#include <random>
+
+#include "foundation/fatal_error.hpp"
 
 namespace foundation {
 namespace {
@@ -22,10 +25,20 @@ std::optional<unsigned> hexDigit(char byte) {
 }  // namespace
 
 RandomSource systemRandomSource() {
-  auto device = std::make_shared<std::random_device>();
-  return [device] {
-    const std::uint64_t high = (*device)();
-    return high << 32 | (*device)();
+  // Asking the system costs far more than the bits do, so it is asked for 256 bytes at once: it gives so many, and no
+  // fewer, whatever interrupts it.
+  struct Supply {
+    std::array<std::uint64_t, 32> words = {};
+    std::size_t left = 0;
+  };
+  return [supply = std::make_shared<Supply>()] {
+    if (supply->left == 0) {
+      if (::getrandom(supply->words.data(), sizeof supply->words, 0) != sizeof supply->words) {
+        fatalError("the system gives no random numbers");
+      }
+      supply->left = supply->words.size();
+    }
+    return supply->words[--supply->left];
   };
 }
 
