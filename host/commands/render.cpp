@@ -1,15 +1,13 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
-#include <vector>
 
-#include "foundation/iso8601.hpp"
 #include "host/commands/command.hpp"
 #include "host/commands/moment.hpp"
 #include "host/commands/picture_file.hpp"
 #include "host/commands/question.hpp"
 #include "host/commands/world_options.hpp"
-#include "host/shown_entry.hpp"
+#include "schedule/entry_dates.hpp"
 
 namespace host {
 
@@ -17,17 +15,6 @@ namespace {
 
 using foundation::JSON;
 using messages::PictureFormat;
-
-std::expected<std::vector<foundation::Date>, messages::Failure> dates(const messages::Timeline& timeline) {
-  std::vector<foundation::Date> result;
-  for (const auto& entry : timeline.entries) {
-    const auto text = entry.is_object() ? entry.value("date", JSON()) : JSON();
-    const auto date = text.is_string() ? foundation::parseMoment(text.get<std::string>()) : std::nullopt;
-    if (!date) return failed("the widget extension sent an entry without a date");
-    result.push_back(*date);
-  }
-  return result;
-}
 
 constexpr std::array endings{PictureFormat::png, PictureFormat::svg, PictureFormat::pdf, PictureFormat::text,
                              PictureFormat::json};
@@ -63,9 +50,9 @@ struct Render {
       const auto timeline = question<messages::Timeline>(
           process, {.world = world, .request = messages::AskProvider{.operation = operation, .kind = kind}});
       if (!timeline) return std::unexpected(timeline.error());
-      const auto moments = dates(*timeline);
-      if (!moments) return std::unexpected(moments.error());
-      if (const auto shown = shownEntry(*moments, moment)) return timeline->wholeEntry(*shown);
+      const auto dates = EntryDates::of(*timeline);
+      if (!dates) return failed("the widget extension sent an entry without a date");
+      if (const auto shown = dates->shown(moment)) return timeline->wholeEntry(shown->index);
     }
     return failed("the widget extension has no entry for " + kind);
   }
