@@ -1,0 +1,68 @@
+import { ApiError } from './api.js';
+import { t } from './words.js';
+
+/** How long to wait before asking for a new event stream when the browser has given up on the old one. */
+const pause = 3000;
+
+/**
+ * Follows the server's events and keeps the state fresh. While the server is away a banner says so.
+ * @param {import('./store.js').Store} store
+ * @param {HTMLElement} banner
+ */
+export function createConnection(store, banner) {
+  /** @type {EventSource | null} */
+  let events = null;
+  let lost = false;
+  let timer = 0;
+
+  /** @param {string} text */
+  const show = (text) => { if (banner.textContent !== text) banner.textContent = text; };
+
+  /** @param {unknown} error */
+  function report(error) {
+    lost = true;
+    const denied = error instanceof ApiError && error.status === 403;
+    show(denied
+      ? t('This page has no access. Run “mirune serve” again, or open the address that it printed.')
+      : t('Reconnecting…'));
+    document.documentElement.classList.add('offline');
+    if (denied) events?.close();
+  }
+
+  /** Fetches the state; a failure shows in the banner. */
+  async function refresh() {
+    try {
+      await store.refresh();
+      lost = false;
+      show('');
+      document.documentElement.classList.remove('offline');
+    } catch (error) {
+      report(error);
+    }
+  }
+
+  function follow() {
+    clearTimeout(timer);
+    events?.close();
+    events = new EventSource('/api/events');
+    events.addEventListener('open', () => { if (lost) refresh(); });
+    events.addEventListener('state', (event) => {
+      const { version } = JSON.parse(/** @type {MessageEvent} */ (event).data);
+      if (lost || version !== store.state?.version) refresh();
+    });
+    events.addEventListener('error', async () => {
+      const closed = events?.readyState === EventSource.CLOSED;
+      lost = true;
+      await refresh();
+      if (closed) {
+        clearTimeout(timer);
+        timer = setTimeout(follow, pause);
+      } else if (events?.readyState !== EventSource.OPEN) {
+        report(null);
+      }
+    });
+  }
+
+  document.addEventListener('visibilitychange', () => { if (!document.hidden) refresh(); });
+  return { refresh, follow };
+}

@@ -1,0 +1,106 @@
+import { byId, element } from './dom.js';
+import { fullText } from './moments.js';
+import { t } from './words.js';
+
+const minute = 60_000;
+/** How far the slider reaches beyond the last change, and where nothing is going to change. */
+const [beyond, emptyReach] = [30 * minute, 24 * 60 * minute];
+/** How long a slider rests before its moment is asked for, in milliseconds. */
+const rest = 120;
+
+/**
+ * The time slider: how everything placed will look at a moment between now and a little after the last known change.
+ * @param {{store: import('./store.js').Store, clock: import('./clock.js').Clock, api: typeof import('./api.js').api,
+ *   say: (text: string) => void, editing: {set: (on: boolean) => void}}} context
+ */
+export function createTime({ store, clock, api, say, editing }) {
+  const [slider, chosen, ticks, away] = [byId('slider'), byId('chosen'), byId('ticks'), byId('away')];
+  /** The moment chosen, in milliseconds; null: now. @type {number | null} */
+  let moment = null;
+  let timer = 0;
+  let asking = new AbortController();
+
+  const changes = () => (store.state?.changes ?? []).map(Date.parse).filter((change) => change > clock.now());
+
+  function drawTicks() {
+    const [first, last] = [Number(slider.min), Number(slider.max)];
+    const shares = new Set(changes().map((change) => Math.round((change / minute - first) / (last - first) * 400) / 4));
+    ticks.replaceChildren(...[...shares].map((share) => {
+      const tick = element('span');
+      tick.style.insetInlineStart = `${share}%`;
+      return tick;
+    }));
+  }
+
+  function render() {
+    const { state } = store;
+    if (!state) return;
+    if (moment !== null && moment <= clock.now()) return choose(null);
+    const known = changes();
+    const now = clock.now();
+    slider.min = String(Math.floor(now / minute));
+    slider.max = String(Math.ceil(((known.at(-1) ?? now + emptyReach - beyond) + beyond) / minute));
+    slider.value = String(Math.floor((moment ?? now) / minute));
+    const text = fullText(state, moment ?? now);
+    const shown = moment === null ? t('Now: %@', text) : text;
+    if (chosen.textContent !== shown) chosen.textContent = shown;
+    slider.setAttribute('aria-valuetext', shown);
+    byId('next').disabled = !known.some((change) => change > (moment ?? now));
+    byId('previous').disabled = moment === null;
+    byId('now').disabled = moment === null;
+    const note = moment === null ? '' : t('This is how it will look on %@. Check boxes and links are off.', text);
+    if (away.textContent !== note) away.textContent = note;
+    drawTicks();
+  }
+
+  async function ask() {
+    if (moment === null) return;
+    const asked = moment;
+    asking = new AbortController();
+    const { signal } = asking;
+    try {
+      const answer = await api.at(new Date(asked).toISOString().replace('.000Z', 'Z'), signal);
+      if (moment === asked) store.look(asked, answer.widgets);
+    } catch (error) {
+      if (!signal.aborted) say(t('That moment cannot be shown: %@', t(/** @type {Error} */ (error).message)));
+    }
+  }
+
+  /** @param {number | null} next */
+  function choose(next) {
+    clearTimeout(timer);
+    asking.abort();
+    const wasNow = moment === null;
+    moment = next !== null && next > clock.now() ? next : null;
+    if (moment === null) {
+      if (!wasNow || store.moment !== null) store.look(null);
+    } else {
+      if (wasNow) {
+        editing.set(false);
+        store.look(moment);
+      }
+      timer = setTimeout(ask, rest);
+    }
+    render();
+  }
+
+  let version = -1;
+  store.subscribe(() => {
+    if (store.state?.version === version) return;
+    version = store.state?.version ?? -1;
+    render();
+    if (moment !== null) ask();
+  });
+  clock.subscribe(render);
+  slider.addEventListener('input', () => choose(Number(slider.value) * minute));
+  byId('now').addEventListener('click', () => {
+    choose(null);
+    slider.focus();
+  });
+  byId('next').addEventListener('click', () =>
+    choose(changes().find((change) => change > (moment ?? clock.now())) ?? moment));
+  byId('previous').addEventListener('click', () => {
+    choose(changes().findLast((change) => change < (moment ?? 0)) ?? null);
+    if (moment === null) slider.focus();
+  });
+}

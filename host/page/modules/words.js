@@ -1,0 +1,37 @@
+/** @type {Record<string, string>} */
+let words = {};
+
+/** @param {Record<string, string> | undefined} next localized texts by English key */
+export function useWords(next) {
+  words = next ?? {};
+}
+
+/**
+ * The localized text of an English key; the key itself where there is none. "%@" stands for the arguments in order,
+ * "%2$@" for the second one.
+ * @param {string} key
+ * @param {...(string | number)} values
+ */
+export function t(key, ...values) {
+  let next = 0;
+  return (Object.hasOwn(words, key) ? words[key] : key).replace(/%(?:(\d+)\$)?@/g, (_, number) =>
+    String(values[number ? Number(number) - 1 : next++] ?? ''));
+}
+
+/** Translates what index.html says itself: data-words, data-words-label and data-words-placeholder hold the keys. */
+export function translatePage(root = document) {
+  for (const one of root.querySelectorAll('[data-words]')) one.textContent = t(one.getAttribute('data-words') ?? '');
+  for (const name of ['label', 'placeholder']) {
+    for (const one of root.querySelectorAll(`[data-words-${name}]`)) {
+      one.setAttribute(name === 'label' ? 'aria-label' : name, t(one.getAttribute(`data-words-${name}`) ?? ''));
+    }
+  }
+}
+
+const sizes = {
+  systemSmall: 'Small', systemMedium: 'Medium', systemLarge: 'Large', systemExtraLarge: 'Extra large',
+  accessoryCircular: 'Circular', accessoryRectangular: 'Rectangular', accessoryInline: 'Inline',
+};
+
+/** @param {string} family @returns {string} what people call it */
+export const sizeName = (family) => t(sizes[family] ?? family);
