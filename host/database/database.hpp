@@ -45,6 +45,8 @@ class Database {
   Database(const std::filesystem::path& file, std::chrono::milliseconds busyLimit);
   /// One that is gone with this value.
   static Database inMemory();
+  Database(const Database&) = delete;
+  Database& operator=(const Database&) = delete;
   Database(Database&& other) noexcept;
   Database& operator=(Database&& other) noexcept;
   ~Database();
