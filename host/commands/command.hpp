@@ -50,5 +50,6 @@ Command tapCommand();
 Command demoCommand();
 Command doctorCommand();
 Command deviceNameCommand();
+Command serveCommand();
 
 }  // namespace host

@@ -36,7 +36,7 @@ std::map<const CLI::App*, Run> declareCommands(CLI::App& app, const Surroundings
   std::map<const CLI::App*, Run> runs;
   for (const auto& command :
        {galleryCommand(), timelineCommand(), placeholderCommand(), snapshotCommand(), renderCommand(), sheetCommand(),
-        tapCommand(), demoCommand(), doctorCommand(), deviceNameCommand()}) {
+        tapCommand(), demoCommand(), doctorCommand(), deviceNameCommand(), serveCommand()}) {
     auto* subcommand = app.add_subcommand(command.name, command.summary);
     runs[subcommand] = command.declare(*subcommand, surroundings);
   }

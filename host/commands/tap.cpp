@@ -5,12 +5,11 @@
 #include "host/commands/question.hpp"
 #include "host/commands/text.hpp"
 #include "host/commands/world_options.hpp"
+#include "host/mark_task_complete.hpp"
 
 namespace host {
 
 namespace {
-
-constexpr const char* markTaskComplete = "TaskIntent";
 
 struct Tap {
   explicit Tap(const Surroundings& surroundings) : extension(surroundings.extension), device(surroundings) {}

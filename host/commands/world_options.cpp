@@ -30,7 +30,7 @@ void WorldOptions::addTo(CLI::App& app) {
   add("--container", world_.container, "FOLDER",
       "Folder of the planner's files (else $MIRUNE_CONTAINER, else $XDG_DATA_HOME/mirune/group.quorvanthimble.app)");
   add("--now", now_, "MOMENT", "Current moment, as 2026-11-21T08:00:00Z (else the clock's)");
-  add("--timezone", world_.timeZone, "NAME", "Time zone, as Europe/Berlin (else the system's)");
+  add("--timezone", timeZone_, "NAME", "Time zone, as Europe/Berlin (else the system's)");
   add("--locale", world_.locale, "NAME", "Language and region, as de_DE (else the system's)");
   add("--screen", world_.screen, "WxH", "Screen in points, portrait (else 390x844)");
   add("--system-version", world_.systemVersion, "N", "Major version of the platform (else 17)");
@@ -45,6 +45,7 @@ std::expected<messages::World, messages::Failure> WorldOptions::world() const {
   if (!isUTF8(world_.plannerURL)) return usage("--planner-url: is not UTF-8 text");
   auto world = world_;
   world.now = *now;
+  if (timeZone_) world.timeZone = *timeZone_;
   world.container = absolutePath(world.container);
   return world;
 }

@@ -23,9 +23,14 @@ class WorldOptions {
   /// The world that was asked for; a usage failure where --now is no moment. Everything else the extension checks.
   std::expected<messages::World, messages::Failure> world() const;
 
+  /// Whether a moment, a time zone was given rather than taken from the machine.
+  bool hasMoment() const { return now_.has_value(); }
+  bool hasTimeZone() const { return timeZone_.has_value(); }
+
  private:
   messages::World world_;
   std::optional<std::string> now_;
+  std::optional<std::string> timeZone_;
 };
 
 }  // namespace host

@@ -41,6 +41,16 @@ WidgetDescription widgetFrom(const JSON& json) {
           .families = field<std::vector<std::string>>(json, "families")};
 }
 
+JSON sizeJSON(const FamilySize& size) {
+  return {{"family", size.family}, {"width", size.width}, {"height", size.height}};
+}
+
+FamilySize sizeFrom(const JSON& json) {
+  return {.family = field<std::string>(json, "family"),
+          .width = field<double>(json, "width"),
+          .height = field<double>(json, "height")};
+}
+
 JSON fileJSON(const FileDiagnosis& file) {
   return {{"file", file.file}, {"state", textOf(file.state, stateTexts)}, {"modified", JSON(file.modified)},
           {"size", file.size}, {"problems", JSON(file.problems)},         {"consequence", file.consequence}};
@@ -62,7 +72,9 @@ struct ToJSON {
   JSON operator()(const Catalogue& reply) const {
     JSON widgets = JSON::array();
     for (const WidgetDescription& widget : reply.widgets) widgets.push_back(widgetJSON(widget));
-    return {{"reply", catalogue}, {"widgets", std::move(widgets)}};
+    JSON sizes = JSON::array();
+    for (const FamilySize& size : reply.sizes) sizes.push_back(sizeJSON(size));
+    return {{"reply", catalogue}, {"widgets", std::move(widgets)}, {"sizes", std::move(sizes)}};
   }
   JSON operator()(const Timeline& reply) const {
     JSON json = {{"reply", timeline}, {"kind", reply.kind}, {"policy", reply.policy}, {"entries", reply.entries}};
@@ -95,6 +107,7 @@ void from_json(const JSON& json, Reply& reply) {
   } else if (name == catalogue) {
     Catalogue read;
     for (const JSON& widget : field<std::vector<JSON>>(json, "widgets")) read.widgets.push_back(widgetFrom(widget));
+    for (const JSON& size : field<std::vector<JSON>>(json, "sizes")) read.sizes.push_back(sizeFrom(size));
     reply = std::move(read);
   } else if (name == timeline) {
     reply = Timeline{.kind = field<std::string>(json, "kind"),

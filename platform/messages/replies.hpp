@@ -21,8 +21,17 @@ struct WidgetDescription {
   friend bool operator==(const WidgetDescription&, const WidgetDescription&) = default;
 };
 
+/// How large the widgets of a family are on the world's screen, in points.
+struct FamilySize {
+  std::string family = {};
+  double width = 0;
+  double height = 0;
+  friend bool operator==(const FamilySize&, const FamilySize&) = default;
+};
+
 struct Catalogue {
   std::vector<WidgetDescription> widgets = {};  ///< in the gallery's order
+  std::vector<FamilySize> sizes = {};           ///< of every family
   friend bool operator==(const Catalogue&, const Catalogue&) = default;
 };
 

@@ -4,6 +4,7 @@
 
 #include "widgetkit/widget_drawing.hpp"
 #include "widgetkit/widget_sheet.hpp"
+#include "widgetkit/widget_size.hpp"
 
 namespace widgetkit {
 namespace {
@@ -61,6 +62,10 @@ Reply ExtensionService::answer(const messages::Envelope& envelope, const ReportP
 Reply ExtensionService::answer(const messages::DescribeCatalogue&, const uikit::Platform& platform) const {
   messages::Catalogue catalogue;
   for (const StaticConfiguration& widget : content_.widgets(platform)) catalogue.widgets.push_back(widget.describe());
+  for (const auto& [family, name] : swiftui::widgetFamilies) {
+    const swiftui::Size size = widgetSize(family, platform.screen);
+    catalogue.sizes.push_back({.family = std::string(name), .width = size.width, .height = size.height});
+  }
   return catalogue;
 }
 

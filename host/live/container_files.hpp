@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <map>
+#include <string>
+
+namespace host {
+
+/// What is in a container, as far as it takes to tell whether it has changed.
+///
+/// The planner's files are the JSON files of the folder itself. Of settings and icons it only matters that pictures may
+/// look different: they are one number.
+class ContainerFiles {
+ public:
+  /// Reads the folders; files whose time and size are those of `before` are not read again.
+  static ContainerFiles of(const std::filesystem::path& container, const ContainerFiles& before);
+
+  /// Whether a planner's file is other than it was, by its content.
+  bool differsFrom(const ContainerFiles& before) const;
+  bool looksDifferentFrom(const ContainerFiles& before) const { return look_ != before.look_; }
+  /// Whether a file was written just now and is no JSON: its writer may not be done.
+  bool isHalfWritten() const { return isHalfWritten_; }
+
+ private:
+  struct File {
+    std::int64_t size = 0;
+    std::filesystem::file_time_type modified = {};
+    std::size_t content = 0;  ///< a hash
+  };
+
+  std::map<std::string, File> files_ = {};
+  std::size_t look_ = 0;
+  bool isHalfWritten_ = false;
+};
+
+}  // namespace host
