@@ -57,6 +57,15 @@ void ExtensionWorker::enqueue(Job job, Urgency urgency) {
   wake_.notify_one();
 }
 
+ExtensionWorker::Answer ExtensionWorker::answered(const messages::Envelope& envelope) {
+  constexpr std::chrono::seconds atOnce(1);
+  const auto begin = std::chrono::steady_clock::now();
+  Answer answer = process_.ask(envelope);
+  // A process that somebody ended is missed only by the next request; that one is asked again of a new process.
+  if (!answer && std::chrono::steady_clock::now() - begin < atOnce) answer = process_.ask(envelope);
+  return answer;
+}
+
 void ExtensionWorker::work() {
   std::unique_lock lock(mutex_);
   while (true) {
@@ -68,7 +77,7 @@ void ExtensionWorker::work() {
     if (job.letsGo) {
       process_.stop();
     } else {
-      job.done(process_.ask(job.envelope));
+      job.done(answered(job.envelope));
     }
     job = {};
     lock.lock();

@@ -43,6 +43,7 @@ class ExtensionWorker {
   };
 
   void enqueue(Job job, Urgency urgency);
+  Answer answered(const messages::Envelope& envelope);
   void work();
 
   boost::asio::any_io_executor executor_;

@@ -276,7 +276,11 @@ asio::awaitable<void> HomeScreen::drawAnew(std::int64_t id, PictureKey key, JSON
                         .hash = std::move(hash),
                         .entryDate = date,
                         .drawnAt = moment};
-    if (widget->drawn && widget->drawn->hash == picture.hash) picture.pictures = std::move(widget->drawn->pictures);
+    const bool looksTheSame = widget->drawn && widget->drawn->hash == picture.hash;
+    const bool isTheSame = looksTheSame && !widget->failure && widget->drawn->entryDate == picture.entryDate &&
+                           widget->drawn->document == picture.document;
+    if (looksTheSame) picture.pictures = std::move(widget->drawn->pictures);
+    if (!isTheSame) changes_.change();
     widget->drawn = std::move(picture);
     widget->failure.reset();
     widget->failures = 0;
@@ -287,8 +291,8 @@ asio::awaitable<void> HomeScreen::drawAnew(std::int64_t id, PictureKey key, JSON
     widget->retryAt = now + pauseAfter(widget->failures);
     const std::string message = bytes ? "the widget extension sent a picture that cannot be read" : bytes.error();
     widget->failure = WidgetFailure{.message = message, .since = widget->failure ? widget->failure->since : now};
+    changes_.change();
   }
-  changes_.change();
   update();
 }
 
