@@ -11,7 +11,7 @@ const plain = (text) => text.normalize('NFKD').replace(/\p{M}/gu, '').toLocaleLo
 
 /**
  * The dialog that shows every kind in every size that it offers, and places them.
- * @param {{store: import('./store.js').Store, api: typeof import('./api.js').api, refresh: () => Promise<void>,
+ * @param {{store: import('./store.js').Store, api: typeof import('./api.js').api, refresh: () => Promise<unknown>,
  *   phone: import('./phone.js').Phone, tabs: ReturnType<typeof import('./tabs.js').createTabs>}} context
  */
 export function createGallery({ store, api, refresh, phone, tabs }) {
