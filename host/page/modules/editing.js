@@ -42,7 +42,7 @@ export function createEditing({ store, api, refresh, say, phone }) {
   /** @param {boolean} next */
   function set(next) {
     on = next && store.moment === null;
-    button.setAttribute('aria-pressed', String(on));
+    button.classList.toggle('main-button', on);
     button.textContent = t(on ? 'Done' : 'Edit');
     button.dataset.words = on ? 'Done' : 'Edit';
     document.documentElement.classList.toggle('editing', on);
