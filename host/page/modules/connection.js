@@ -25,19 +25,18 @@ export function createConnection(store, banner) {
     show(denied
       ? t('This page has no access. Run “mirune serve” again, or open the address that it printed.')
       : t('Reconnecting…'));
-    document.documentElement.classList.add('offline');
-    if (denied) events?.close();
   }
 
-  /** Fetches the state; a failure shows in the banner. */
+  /** Fetches the state; a failure shows in the banner. @returns {Promise<boolean>} whether it came */
   async function refresh() {
     try {
       await store.refresh();
       lost = false;
       show('');
-      document.documentElement.classList.remove('offline');
+      return true;
     } catch (error) {
       report(error);
+      return false;
     }
   }
 
@@ -51,15 +50,13 @@ export function createConnection(store, banner) {
       if (lost || version !== store.state?.version) refresh();
     });
     events.addEventListener('error', async () => {
-      const closed = events?.readyState === EventSource.CLOSED;
       lost = true;
-      await refresh();
-      if (closed) {
+      const reachable = await refresh();
+      if (events?.readyState === EventSource.CLOSED) {
         clearTimeout(timer);
         timer = setTimeout(follow, pause);
-      } else if (events?.readyState !== EventSource.OPEN) {
-        report(null);
       }
+      if (reachable && events?.readyState !== EventSource.OPEN) report(null);
     });
   }
 

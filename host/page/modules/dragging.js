@@ -25,7 +25,7 @@ function glide(elements, change, shrink) {
  */
 export function enableDragging({ isOn, shrink, moved }) {
   /** @type {null | {article: HTMLElement, pointer: number, grip: [number, number], start: [number, number],
-   *   index: number, going: boolean, at: [number, number], frame: number}} */
+   *   index: number, going: boolean, at: [number, number], frame: number, over: Element | null}} */
   let drag = null;
 
   function follow() {
@@ -36,16 +36,20 @@ export function enableDragging({ isOn, shrink, moved }) {
     article.style.transform = `translate(${(x - grip[0] - rect.left) / shrink()}px, ${(y - grip[1] - rect.top) / shrink()}px)`;
   }
 
+  /** Takes the place of the widget under the pointer, once: two that fit both ways would swap for ever. */
   function reorder() {
     if (!drag) return;
     const { article, at: [x, y] } = drag;
     const siblings = [...(article.parentElement?.children ?? [])];
-    const target = siblings.findIndex((one) => {
+    const over = siblings.find((one) => {
       const rect = one.getBoundingClientRect();
-      return one !== article && x > rect.left && x < rect.right && y > rect.top && y < rect.bottom &&
-        !one.getAnimations().some((animation) => animation.playState === 'running');
-    });
-    if (target >= 0) glide(siblings.filter((one) => one !== article), () => placeNear(article, target), shrink());
+      return one !== article && x > rect.left && x < rect.right && y > rect.top && y < rect.bottom;
+    }) ?? null;
+    if (over === drag.over || over?.getAnimations().length) return;
+    drag.over = over;
+    if (!over) return;
+    const target = siblings.indexOf(over);
+    glide(siblings.filter((one) => one !== article), () => placeNear(article, target), shrink());
   }
 
   function scroll() {
@@ -55,12 +59,9 @@ export function enableDragging({ isOn, shrink, moved }) {
     if (page && rect) {
       const y = drag.at[1];
       const push = y < rect.top + zone ? y - rect.top - zone : y > rect.bottom - zone ? y - rect.bottom + zone : 0;
-      const before = page.scrollTop;
       page.scrollTop += Math.max(-1, Math.min(1, push / zone)) * fastest;
-      if (page.scrollTop !== before) {
-        reorder();
-        follow();
-      }
+      reorder();
+      follow();
     }
     drag.frame = requestAnimationFrame(scroll);
   }
@@ -89,7 +90,7 @@ export function enableDragging({ isOn, shrink, moved }) {
     const rect = article.getBoundingClientRect();
     const at = /** @type {[number, number]} */ ([event.clientX, event.clientY]);
     drag = { article, pointer: event.pointerId, grip: [at[0] - rect.left, at[1] - rect.top], start: at, at, frame: 0,
-      index: [...(article.parentElement?.children ?? [])].indexOf(article), going: false };
+      index: [...(article.parentElement?.children ?? [])].indexOf(article), going: false, over: null };
   });
   document.addEventListener('pointermove', (event) => {
     if (!drag || event.pointerId !== drag.pointer) return;
@@ -100,7 +101,6 @@ export function enableDragging({ isOn, shrink, moved }) {
       drag.article.classList.add('dragged');
       drag.frame = requestAnimationFrame(scroll);
     }
-    reorder();
     follow();
   });
   document.addEventListener('pointerup', (event) => { if (event.pointerId === drag?.pointer) end(true); });

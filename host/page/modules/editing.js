@@ -9,7 +9,7 @@ const idOf = (article) => Number(/** @type {HTMLElement} */ (article).dataset.id
 
 /**
  * Edit mode: removing widgets and putting them into another order. Changes show at once; the server's state decides.
- * @param {{store: import('./store.js').Store, api: typeof import('./api.js').api, refresh: () => Promise<void>,
+ * @param {{store: import('./store.js').Store, api: typeof import('./api.js').api, refresh: () => Promise<unknown>,
  *   say: (text: string) => void, phone: import('./phone.js').Phone}} context
  */
 export function createEditing({ store, api, refresh, say, phone }) {
@@ -42,7 +42,7 @@ export function createEditing({ store, api, refresh, say, phone }) {
   /** @param {boolean} next */
   function set(next) {
     on = next && store.moment === null;
-    button.setAttribute('aria-pressed', String(on));
+    button.classList.toggle('main-button', on);
     button.textContent = t(on ? 'Done' : 'Edit');
     button.dataset.words = on ? 'Done' : 'Edit';
     document.documentElement.classList.toggle('editing', on);

@@ -11,7 +11,7 @@ const plain = (text) => text.normalize('NFKD').replace(/\p{M}/gu, '').toLocaleLo
 
 /**
  * The dialog that shows every kind in every size that it offers, and places them.
- * @param {{store: import('./store.js').Store, api: typeof import('./api.js').api, refresh: () => Promise<void>,
+ * @param {{store: import('./store.js').Store, api: typeof import('./api.js').api, refresh: () => Promise<unknown>,
  *   phone: import('./phone.js').Phone, tabs: ReturnType<typeof import('./tabs.js').createTabs>}} context
  */
 export function createGallery({ store, api, refresh, phone, tabs }) {
@@ -49,7 +49,13 @@ export function createGallery({ store, api, refresh, phone, tabs }) {
         'aria-label': t('Add %1$@, %2$@', kind.displayName, name) }, t('Add')));
   }
 
+  let shown = '';
+
+  /** Shows the catalogue unless it is shown already. */
   function render() {
+    const key = JSON.stringify([store.state?.catalogue, store.state?.theme, store.state?.words, phone.density()]);
+    if (key === shown) return;
+    shown = key;
     list.replaceChildren(...(store.state?.catalogue ?? []).map((kind) => {
       const section = element('section', { 'aria-labelledby': `kind-${kind.shortName}` },
         element('h3', { id: `kind-${kind.shortName}` }, kind.displayName),
@@ -60,27 +66,30 @@ export function createGallery({ store, api, refresh, phone, tabs }) {
       return section;
     }), element('p', { class: 'nothing', hidden: true }, t('No widget matches.')));
     list.dataset.theme = store.state?.theme;
+    sift();
   }
 
   function sift() {
     const wanted = plain(filter.value).split(/\s+/).filter(Boolean);
-    let shown = 0;
+    let count = 0;
     for (const section of list.querySelectorAll('section')) {
       section.hidden = !wanted.every((word) => section.dataset.text?.includes(word));
-      if (!section.hidden) shown++;
+      if (!section.hidden) count++;
     }
-    list.querySelector('.nothing').hidden = shown > 0;
+    list.querySelector('.nothing').hidden = count > 0 || wanted.length === 0;
   }
 
   function open() {
     filter.value = '';
     said.textContent = '';
     said.classList.remove('shown');
+    shown = '';
     render();
     dialog.showModal();
     filter.focus();
   }
 
+  store.subscribe(() => { if (dialog.open) render(); });
   byId('add').addEventListener('click', open);
   byId('gallery-close').addEventListener('click', () => dialog.close());
   filter.addEventListener('input', sift);

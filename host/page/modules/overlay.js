@@ -1,18 +1,14 @@
 import { arrange, element, safeAddress } from './dom.js';
+import { targetsOf } from './targets.js';
 import { t } from './words.js';
 /** @typedef {import('./types.js').Part} Part */
 /** @typedef {import('./types.js').Widget} Widget */
 
-/** Smallest side of what can be tapped, in points. */
-const smallestTarget = 24;
-
-/** @param {HTMLElement} made @param {Part} part @param {number} [least] */
-function place(made, { frame: [x, y, width, height] }, least = 0) {
-  const [wide, high] = [Math.max(width, least), Math.max(height, least)];
-  made.style.left = `${x - (wide - width) / 2}px`;
-  made.style.top = `${y - (high - height) / 2}px`;
-  made.style.width = `${wide}px`;
-  made.style.height = `${high}px`;
+/** @param {HTMLElement} made @param {Part} part @param {import('./types.js').Frame} [frame] where it is, unless at its own */
+function place(made, part, frame = part.frame) {
+  const [left, top, width, height] = frame;
+  Object.assign(made.style, { left: `${left}px`, top: `${top}px`, width: `${width}px`, height: `${height}px` });
+  made.style.setProperty('--middle', `${part.frame[1] + part.frame[3] / 2 - top}px`);
 }
 
 /** A text that stands where the picture shows it, for those who hear the page. */
@@ -28,7 +24,8 @@ const said = {
 /**
  * How each part of the meaning becomes a real element over the picture.
  * @type {Record<string, {make: () => HTMLElement,
- *   update: (made: any, part: Part, widget: Widget, context: import('./widget.js').Context) => void}>}
+ *   update: (made: any, part: Part, target: import('./types.js').Frame, widget: Widget,
+ *     context: import('./widget.js').Context) => void}>}
  */
 const roles = {
   text: said,
@@ -52,22 +49,22 @@ const roles = {
   },
   link: {
     make: () => element('a', { class: 'control', target: '_blank', rel: 'noopener noreferrer' }),
-    update(made, part, _, { store }) {
+    update(made, part, target, _, { store }) {
       made.setAttribute('aria-label', part.label);
       setAddress(made, part.url, store.moment !== null);
-      place(made, part, smallestTarget);
+      place(made, part, target);
     },
   },
   checkbox: {
     make: () => element('input', { type: 'checkbox', class: 'control tick' }),
-    update(made, part, widget, { store, taps }) {
+    update(made, part, target, widget, { store, taps }) {
       const waiting = taps.isWaiting(widget, part);
       made.setAttribute('aria-label', part.label);
       made.checked = waiting ? !part.checked : Boolean(part.checked);
       made.classList.toggle('waiting', waiting);
       made.disabled = store.moment !== null;
       made.onchange = () => taps.tap(widget, part);
-      place(made, part, smallestTarget);
+      place(made, part, target);
     },
   },
 };
@@ -95,13 +92,14 @@ export function createOverlay() {
       const hadFocus = layer.contains(document.activeElement);
       /** @type {Map<string, HTMLElement>} */
       const next = new Map();
-      for (const part of widget.meaning) {
+      const targets = targetsOf(widget.meaning);
+      for (const [i, part] of widget.meaning.entries()) {
         const role = roles[part.role] ?? said;
         const name = [part.role, part.id ?? part.url ?? part.label, part.date ?? ''].join('\n');
         let key = name;
         for (let again = 1; next.has(key); again++) key = `${name}\n${again}`;
         const one = made.get(key) ?? role.make();
-        role.update(one, part, widget, context);
+        role.update(one, part, targets[i], widget, context);
         next.set(key, one);
       }
       made = next;

@@ -20,6 +20,7 @@ export function createPlaces(context) {
 
   return {
     render() {
+      if (!store.state) return;
       const present = new Set();
       for (const place of /** @type {const} */ (['home', 'lock'])) {
         const widgets = editing.ordered(place, store.widgets(place));

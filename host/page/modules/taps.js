@@ -7,7 +7,7 @@ const keyOf = (widget, part) => `${widget.id} ${part.id} ${part.date ?? ''}`;
 
 /**
  * Taps on check boxes. A box fills at once; the state that follows decides, and a failure puts it back.
- * @param {{store: import('./store.js').Store, api: typeof import('./api.js').api, refresh: () => Promise<void>,
+ * @param {{store: import('./store.js').Store, api: typeof import('./api.js').api, refresh: () => Promise<unknown>,
  *   say: (text: string) => void}} context
  */
 export function createTaps({ store, api, refresh, say }) {

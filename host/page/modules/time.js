@@ -1,5 +1,5 @@
 import { byId, element } from './dom.js';
-import { fullText } from './moments.js';
+import { dayText, fullText, timeText } from './moments.js';
 import { t } from './words.js';
 
 const minute = 60_000;
@@ -14,7 +14,7 @@ const rest = 120;
  *   say: (text: string) => void, editing: {set: (on: boolean) => void}}} context
  */
 export function createTime({ store, clock, api, say, editing }) {
-  const [slider, chosen, ticks, away] = [byId('slider'), byId('chosen'), byId('ticks'), byId('away')];
+  const [slider, ticks, away] = [byId('slider'), byId('ticks'), byId('away')];
   /** The moment chosen, in milliseconds; null: now. @type {number | null} */
   let moment = null;
   let timer = 0;
@@ -42,9 +42,10 @@ export function createTime({ store, clock, api, say, editing }) {
     slider.max = String(Math.ceil(((known.at(-1) ?? now + emptyReach - beyond) + beyond) / minute));
     slider.value = String(Math.floor((moment ?? now) / minute));
     const text = fullText(state, moment ?? now);
-    const shown = moment === null ? t('Now: %@', text) : text;
-    if (chosen.textContent !== shown) chosen.textContent = shown;
-    slider.setAttribute('aria-valuetext', shown);
+    byId('chosen-day').textContent = dayText(state, moment ?? now);
+    byId('chosen-time').textContent = timeText(state, moment ?? now);
+    byId('chosen').classList.toggle('away', moment !== null);
+    slider.setAttribute('aria-valuetext', moment === null ? t('Now: %@', text) : text);
     byId('next').disabled = !known.some((change) => change > (moment ?? now));
     byId('previous').disabled = moment === null;
     byId('now').disabled = moment === null;
@@ -100,7 +101,7 @@ export function createTime({ store, clock, api, say, editing }) {
   byId('next').addEventListener('click', () =>
     choose(changes().find((change) => change > (moment ?? clock.now())) ?? moment));
   byId('previous').addEventListener('click', () => {
-    choose(changes().findLast((change) => change < (moment ?? 0)) ?? null);
+    choose(changes().filter((change) => change < (moment ?? 0)).at(-1) ?? null);
     if (moment === null) slider.focus();
   });
 }

@@ -29,7 +29,7 @@ export function createWhy({ store, api }) {
     return element('li', {},
       element('h4', {}, `${widget.displayName} `, element('span', { class: 'size' }, sizeName(widget.family))),
       facts(
-        [t('Shows the entry of'), when(one.entryDate)],
+        [t('Shows entry of'), when(one.entryDate)],
         [t('Next change'), when(one.nextChange)],
         [t('Asks again'), next ? t('%1$@, because: %2$@', when(next.at), t(next.reason)) : t('none')],
         [t('Asked last'), when(one.lastRequest)]),

@@ -28,7 +28,7 @@ export class Home {
 
   constructor({ pictures, ...settings }) {
     this.pictures = pictures;
-    this.settings = { now: '2026-11-21T08:00:00Z', speed: 1, timeZone: 'Europe/Berlin', locale: 'en_GB', direction: 'ltr',
+    this.settings = { now: '2026-11-21T09:00:00Z', speed: 1, timeZone: 'Europe/Berlin', locale: 'en_GB', direction: 'ltr',
       screen: { width: 390, height: 844 }, theme: 'light', plannerURL: 'https://planner.example', words: {}, ...settings };
   }
 

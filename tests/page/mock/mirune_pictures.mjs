@@ -47,6 +47,6 @@ export async function mirunePictures({ now, timeZone, locale, theme = 'light' })
       await run(program, ['tap', id, ...(date ? ['--date', date] : []), ...world, '--now', now]);
       taps++;
     },
-    close: () => rm(folder, { recursive: true, force: true }),
+    close: () => rm(folder, { recursive: true, force: true, maxRetries: 10, retryDelay: 100 }),
   };
 }

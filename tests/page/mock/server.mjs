@@ -43,7 +43,7 @@ const routes = [
  * Tests steer it: `deny` answers 403 to everything, `cut` ends every connection and lets none in until `heal`.
  */
 export async function startMock({ pictures = 'plain', widgets = [], port = 0, ...settings } = {}) {
-  const now = settings.now ?? '2026-11-21T08:00:00Z';
+  const now = settings.now ?? '2026-11-21T09:00:00Z';
   const drawn = pictures === 'mirune'
     ? await mirunePictures({ now, timeZone: 'Europe/Berlin', locale: 'en_GB', ...settings }) : plainPictures();
   const home = new Home({ pictures: drawn, ...settings, now });

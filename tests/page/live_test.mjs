@@ -1,0 +1,100 @@
+import assert from 'node:assert/strict';
+import { test } from 'node:test';
+import { eventually, names, onHome, useBrowser } from './support/browser.mjs';
+
+const used = useBrowser();
+const banner = (page) => page.locator('#connection').textContent();
+
+test('A change on the host arrives without a reload, and only what changed is fetched', () => onHome(used, {}, async (page, mock) => {
+  const asked = mock.requests.length;
+  mock.home.add('habits', 'systemSmall');
+  await eventually(() => names(page), ['Tasks', 'Calendar', 'Mood Check-In', 'Habits']);
+  await page.locator('[data-id="4"] img').waitFor();
+  assert.deepEqual(mock.requests.slice(asked).filter((one) => one.includes('/picture')).map((one) => one.split('?')[0]),
+    ['GET /api/widgets/4/picture']);
+}));
+
+test('A lost connection is said, and the page catches up when it is back', () => onHome(used, {}, async (page, mock) => {
+  mock.cut();
+  await eventually(() => banner(page), 'Reconnecting…');
+  assert.equal(await page.locator('#home img').count(), 3);
+  mock.home.add('quote', 'systemMedium');
+  mock.heal();
+  await eventually(() => names(page), ['Tasks', 'Calendar', 'Mood Check-In', 'Quote of the Day']);
+  await eventually(() => banner(page), '');
+}));
+
+test('Without access the page says what to do', () => onHome(used, {}, async (page, mock) => {
+  mock.deny = true;
+  mock.cut();
+  mock.heal();
+  await page.waitForFunction(() => document.querySelector('#connection').textContent.includes('mirune serve'));
+}));
+
+test('The clock goes by the host’s time, zone and language', () => onHome(used, {
+  mock: { now: '2026-11-21T15:04:58Z', speed: 10, timeZone: 'America/New_York', locale: 'en_US' },
+}, async (page) => {
+  await eventually(() => page.locator('#status-time').textContent(), '10:05');
+  assert.equal(await page.locator('#lock-date').textContent(), 'Saturday, November 21');
+  await eventually(() => page.locator('#status-time').textContent(), '10:06');
+}));
+
+test('Texts of the host replace the page’s own', () => onHome(used, {
+  mock: { words: { Edit: 'Bearbeiten', 'Remove %@': '%@ entfernen' }, locale: 'de_DE' },
+}, async (page) => {
+  await page.getByRole('button', { name: 'Bearbeiten' }).click();
+  await page.getByRole('button', { name: 'Tasks entfernen' }).waitFor();
+  assert.equal(await page.locator('html').getAttribute('lang'), 'de-DE');
+  assert.equal(await page.locator('#lock-date').textContent(), 'Samstag, 21. November');
+}));
+
+test('The time slider shows what will be seen, and nothing can be tapped meanwhile', () => onHome(used, {}, async (page, mock) => {
+  const shown = async () => (await page.locator('#chosen').textContent()).replace(/\b00:/, '0:');
+  const boxes = () => page.locator('[data-id="1"] input').evaluateAll((all) => all.map((one) => [one.ariaLabel, one.disabled]));
+  assert.equal(await shown(), 'Saturday 21 November 10:00');
+  await page.getByRole('button', { name: 'Next change' }).click();
+  await eventually(shown, 'Sunday 22 November 0:00');
+  await eventually(boxes, [['Call grandma', true], ['Reply to Mira', true], ['Buy oat milk', true]]);
+  await page.waitForFunction(() => document.querySelector('#away').textContent.includes('Sunday 22 November'));
+  assert.ok(mock.requests.some((one) => one.includes('/api/widgets/1/picture?scale=1&at=2026-11-21T23')), 'the picture of then');
+  assert.equal(await page.locator('#home a[href]').count(), 0);
+
+  await page.getByRole('button', { name: 'Next change' }).click();
+  await eventually(boxes, [['Reply to Mira', true], ['Buy oat milk', true]]);
+  assert.equal(await page.getByRole('button', { name: 'Next change' }).isDisabled(), true);
+  await page.getByRole('button', { name: 'Previous change' }).click();
+  await eventually(shown, 'Sunday 22 November 0:00');
+
+  await page.getByRole('button', { name: 'Now', exact: true }).click();
+  await eventually(boxes, [['Water the ferns', false], ['Call grandma', false], ['Reply to Mira', false]]);
+  await eventually(() => page.locator('#away').textContent(), '');
+}));
+
+test('The slider goes minute by minute with the keyboard, and asks only where it rests', () => onHome(used, {}, async (page, mock) => {
+  const slider = page.getByRole('slider', { name: 'Moment shown' });
+  await slider.focus();
+  const asked = mock.requests.length;
+  for (let i = 0; i < 10; i++) await page.keyboard.press('ArrowRight');
+  await eventually(() => slider.getAttribute('aria-valuetext'), 'Saturday 21 November at 10:10');
+  await page.waitForResponse(/api\/at/).catch(() => {});
+  const moments = mock.requests.slice(asked).filter((one) => one.includes('/api/at'));
+  assert.ok(moments.length < 10, moments.join('\n'));
+  assert.match(moments.at(-1), /2026-11-21T09%3A10%3A00Z/);
+  assert.equal(await page.locator('#ticks span').count(), 2);
+}));
+
+test('The drawer says why', () => onHome(used, {}, async (page, mock) => {
+  mock.home.files = [
+    { file: 'tasks.json', state: 'decoded', modified: '2026-11-21T07:40:00Z', size: 4127, problems: [], consequence: '' },
+    { file: 'events.json', state: 'refused', modified: null, size: 812, problems: ['2026/11/21[3].calid: missing'], consequence: 'No events are shown.' },
+  ];
+  await page.getByText('Why it looks this way').click();
+  const tasks = page.locator('#why-content li').filter({ has: page.locator('h4', { hasText: /^Tasks / }) });
+  await tasks.waitFor();
+  assert.match(await tasks.textContent(), /Next changeSun 22 Nov, 0?0:00.*because: the timeline ends/);
+  const events = page.locator('#why-content li').filter({ hasText: 'events.json' });
+  assert.match(await events.first().textContent(), /Refused.*2026\/11\/21\[3\]\.calid: missing.*No events are shown\./);
+  mock.home.failures.set(1, { message: 'The extension stopped.', since: '2026-11-21T09:32:00Z' });
+  mock.home.changed();
+  await tasks.filter({ hasText: 'The extension stopped.' }).waitFor();
+}));
