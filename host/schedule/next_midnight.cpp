@@ -3,10 +3,13 @@
 namespace host {
 
 foundation::Date nextMidnight(const foundation::Calendar& calendar, foundation::Date moment) {
-  const auto tomorrow = calendar.dateByAdding(foundation::CalendarComponent::day, 1, moment);
-  const auto midnight = tomorrow ? calendar.startOfDay(*tomorrow) : moment;
-  // At the end of all dates there is no tomorrow, but a host that waits must have a moment to wait for.
-  return midnight > moment ? midnight : moment + std::chrono::days(1);
+  // Where a clock change leads from a minute past midnight back into the day before, tomorrow has begun already once.
+  for (const int days : {1, 2}) {
+    const auto day = calendar.dateByAdding(foundation::CalendarComponent::day, days, moment);
+    const auto midnight = day ? calendar.startOfDay(*day) : foundation::Date::max();
+    if (midnight > moment) return midnight;
+  }
+  return foundation::Date::max();
 }
 
 }  // namespace host

@@ -57,11 +57,9 @@ TimelineState happened(TimelineState state, OutsideEvent event) {
 }
 
 TimelineState clockRead(TimelineState state, Date now, Date nextMidnight) {
-  if (state.asked && *state.asked - now > smallStep) {
-    state.asked = now;
-    if (state.due && state.due->at > nextMidnight) {
-      state.due = NextRequest{.at = nextMidnight, .reason = RequestReason::nextMidnight};
-    }
+  const bool wasPutBack = state.asked && *state.asked - now > smallStep;
+  if (wasPutBack && state.due && state.due->at > nextMidnight) {
+    state.due = NextRequest{.at = nextMidnight, .reason = RequestReason::nextMidnight};
   }
   if (state.failures) state.failures->last = std::min(state.failures->last, now);
   return state;

@@ -22,6 +22,7 @@ TEST(NextMidnight, IsWhereTheNextDayBegins) {
       {"America/Havana", "2026-10-31T16:00:00Z", "2026-11-01T04:00:00Z"},       // the first of two midnights
       {"America/Havana", "2026-11-01T05:30:00Z", "2026-11-02T05:00:00Z"},       // after the second
       {"Australia/Lord_Howe", "2026-04-04T16:00:00Z", "2026-04-05T13:30:00Z"},  // half an hour longer
+      {"America/St_Johns", "2010-11-07T03:00:00Z", "2010-11-08T03:30:00Z"},     // 23:30 again, after the 7th began
       {"Pacific/Apia", "2011-12-29T12:00:00Z", "2011-12-30T10:00:00Z"},         // the 30th was left out
   };
   for (const auto& [zone, text, midnight] : cases) {
@@ -30,8 +31,10 @@ TEST(NextMidnight, IsWhereTheNextDayBegins) {
 }
 
 TEST(NextMidnight, LiesAheadAtTheEndOfAllDatesToo) {
-  const auto last = foundation::Date::max() - std::chrono::days(3);
-  EXPECT_GT(nextMidnight(calendarIn("Europe/Berlin"), last), last);
+  for (const auto before : {std::chrono::hours(72), std::chrono::hours(1)}) {
+    const auto late = foundation::Date::max() - before;
+    EXPECT_GT(nextMidnight(calendarIn("Europe/Berlin"), late), late);
+  }
 }
 
 }  // namespace

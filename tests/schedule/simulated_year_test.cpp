@@ -60,6 +60,7 @@ TEST(SimulatedYear, ShowsTodayAndAsksNoMoreThanTheWidgetsWant) {
     for (const auto& [name, widget, isRight, requests, changesADay] : widgets) {
       SCOPED_TRACE(std::string(name) + " in " + year.zone);
       VirtualHost host(widget, calendarIn(year.zone), moment(year.start));
+      host.step = std::chrono::minutes(7);
       host.look = [&](Date now, Date shown) {
         ASSERT_TRUE(isRight(host.calendar(), shown, now)) << foundation::formatMoment(now);
       };

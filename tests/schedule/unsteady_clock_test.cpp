@@ -46,7 +46,8 @@ TEST(UnsteadyClock, AsksAtTheNextMidnightWhenItWasPutBackFar) {
       {"a year", -days(365), "2025-11-21T23:00:00Z", nextMidnight},
       {"half a day", -hours(11), "2026-11-21T23:00:00Z", nextMidnight},  // asked for in the future
       {"half an hour, behind nothing", -minutes(30), "2026-12-04T23:00:00Z", endReached},
-      {"a minute before it was asked for", -minutes(61), "2026-12-04T23:00:00Z", endReached},
+      {"a minute before it was asked for, as happens", -minutes(61), "2026-12-04T23:00:00Z", endReached},
+      {"two minutes before it was asked for", -minutes(62), "2026-11-21T23:00:00Z", nextMidnight},
   };
   for (const auto& [name, step, next, reason] : cases) {
     auto host = tasksHost();

@@ -34,18 +34,28 @@ VirtualHost::VirtualHost(FakeWidget widget, foundation::Calendar calendar, Date 
   decideNow();
 }
 
+void VirtualHost::expectShownAt(Date time) const {
+  const auto shown = shownBySearch(dates_, time);
+  ASSERT_EQ(decision_.shown.has_value(), shown.has_value());
+  if (!shown) return;
+  EXPECT_EQ(decision_.shown->index, *shown) << foundation::formatMoment(time);
+  EXPECT_EQ(decision_.shown->isEarly, dates_[*shown] > time) << foundation::formatMoment(time);
+}
+
 void VirtualHost::decideNow() {
   state_ = clockRead(std::move(state_), now_, nextMidnight(calendar_, now_));
   decision_ = decide(state_, now_);
   if (decision_.asksNow) {
     sent_.push_back({.at = now_, .reason = decision_.nextRequest->reason});
     EXPECT_LE(decision_.nextRequest->at, now_);
+    EXPECT_LE(sent_.size(), 50'000) << "it asks in circles";
     state_ = host::requestSent(std::move(state_), now_);
     requestSent_ = now_;
     answerIn_ = latency_;
     decision_ = decide(state_, now_);
     EXPECT_FALSE(decision_.nextRequest) << "while one is on its way";
   }
+  expectShownAt(now_);
   EXPECT_GT(decision_.wake.value_or(Date::max()), now_);
   EXPECT_LE(decision_.wake.value_or(Date::max()), decision_.nextChange.value_or(Date::max()));
 }
@@ -71,13 +81,11 @@ void VirtualHost::passUntil(Date moment) {
   const auto steps = (now_.time_since_epoch() - half + step - std::chrono::milliseconds(1)) / step;
   for (Date time(steps * step + half); time < moment; time += step) {
     if (time < now_) continue;
-    const auto shown = shownBySearch(dates_, time);
-    ASSERT_EQ(decision_.shown.has_value(), shown.has_value());
-    if (!shown) continue;
-    ASSERT_EQ(decision_.shown->index, *shown) << foundation::formatMoment(time);
-    ASSERT_EQ(decision_.shown->isEarly, dates_[*shown] > time) << foundation::formatMoment(time);
-    if (look) look(time, dates_[*shown]);
+    expectShownAt(time);
+    if (look && decision_.shown) look(time, dates_[decision_.shown->index]);
+    if (testing::Test::HasFailure()) break;
   }
+  if (moment > now_) expectShownAt(moment - std::chrono::milliseconds(1));
   if (requestSent_) answerIn_ -= moment - now_;
   now_ = moment;
 }

@@ -63,6 +63,7 @@ class VirtualHost {
   std::chrono::milliseconds step = std::chrono::minutes(1);
 
  private:
+  void expectShownAt(foundation::Date time) const;
   void decideNow();
   void takeAnswer();
   void passUntil(foundation::Date moment);
