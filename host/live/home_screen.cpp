@@ -119,6 +119,11 @@ void HomeScreen::reload() {
 void HomeScreen::readPlacedWidgets() {
   std::vector<ShownWidget> widgets;
   for (const home::PlacedWidget& placed : store_.widgets()) {
+    // What another version of the extension knows stays in the store.
+    if (std::ranges::find(catalogue_.widgets, placed.kind, &messages::WidgetDescription::kind) ==
+        catalogue_.widgets.end()) {
+      continue;
+    }
     ShownWidget* known = find(placed.id);
     ShownWidget widget = known != nullptr ? std::move(*known) : ShownWidget();
     widget.placed = placed;
@@ -157,6 +162,7 @@ void HomeScreen::updateKinds(Date now, Date midnight) {
 
 void HomeScreen::updateWidgets(Date now) {
   for (ShownWidget& widget : widgets_) {
+    if (widget.retryAt && *widget.retryAt <= now) widget.retryAt.reset();
     const KindTimeline& kind = kinds_.at(widget.placed.kind);
     const auto& entries = kind.timeline.entries;
     if (kind.number == 0 || entries.empty()) continue;
@@ -165,7 +171,7 @@ void HomeScreen::updateWidgets(Date now) {
     if (shown.index >= entries.size()) continue;
     const PictureKey key{.timeline = kind.number, .entry = shown.index, .isEarly = shown.isEarly, .look = look_};
     const bool isDrawn = widget.drawn && widget.drawn->key == key;
-    const bool isWaiting = widget.drawing || (widget.retryAt && *widget.retryAt > now);
+    const bool isWaiting = widget.drawing || widget.retryAt;
     if (isDrawn || isWaiting) continue;
     widget.drawing = key;
     JSON entry = kind.timeline.wholeEntry(shown.index);
