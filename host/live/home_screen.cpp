@@ -223,6 +223,18 @@ asio::awaitable<std::expected<std::string, std::string>> HomeScreen::draw(messag
   co_return std::move(picture->bytes);
 }
 
+asio::awaitable<std::expected<std::string, std::string>> HomeScreen::drawPatiently(const messages::Envelope& question) {
+  constexpr int attempts = 3;
+  asio::steady_timer pause(executor_);
+  for (int attempt = 1;; ++attempt) {
+    messages::Envelope again = question;
+    auto bytes = co_await draw(std::move(again));
+    if (bytes || attempt == attempts) co_return bytes;
+    pause.expires_after(std::chrono::milliseconds(300));
+    co_await pause.async_wait(asio::use_awaitable);
+  }
+}
+
 asio::awaitable<void> HomeScreen::requestTimeline(std::string kind) {
   const Date asked = options_.clock.now();
   auto question = envelope(providerRequest(messages::ProviderOperation::timeline, kind), asked);
@@ -323,8 +335,8 @@ asio::awaitable<Result<std::string>> HomeScreen::picture(std::int64_t id, double
     drawnAt = widget->drawn->drawnAt;
     hash = widget->drawn->hash;
   }
-  auto question = drawing(widget->placed, std::move(entry), PictureFormat::png, scale, drawnAt);
-  auto bytes = co_await draw(std::move(question));
+  const auto question = drawing(widget->placed, std::move(entry), PictureFormat::png, scale, drawnAt);
+  auto bytes = co_await drawPatiently(question);
   widget = find(id);
   if (widget == nullptr) co_return refused(Refusal::Reason::unknown, "there is no such widget");
   if (!bytes) {

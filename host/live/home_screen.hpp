@@ -85,6 +85,8 @@ class HomeScreen {
       messages::Envelope question, ExtensionWorker::Urgency urgency = ExtensionWorker::Urgency::usual);
   /// The bytes of a picture, or why there are none.
   boost::asio::awaitable<std::expected<std::string, std::string>> draw(messages::Envelope question);
+  /// The same, asked again where it fails: a browser asks for a picture once.
+  boost::asio::awaitable<std::expected<std::string, std::string>> drawPatiently(const messages::Envelope& question);
 
   boost::asio::awaitable<void> watchMoments();
   boost::asio::awaitable<void> watchContainer();
