@@ -124,6 +124,24 @@ test('A widget is dragged to another place with the mouse', () => onHome(used, {
   assert.equal(await page.locator('[data-id="1"]').evaluate((one) => one.style.transform), '');
 }));
 
+test('A drag to the lower edge scrolls the screen, and below the last widget is the end', () => onHome(used, {
+  mock: { widgets: Array.from({ length: 7 }, () => ['mood', 'systemMedium']) },
+}, async (page, mock) => {
+  await page.getByRole('button', { name: 'Edit', exact: true }).click();
+  const screen = await page.locator('.screen').boundingBox();
+  const from = await page.locator('[data-id="1"]').boundingBox();
+  await page.mouse.move(from.x + 100, from.y + 60);
+  await page.mouse.down();
+  await page.mouse.move(screen.x + 150, screen.y + screen.height - 8, { steps: 4 });
+  await eventually(() => page.locator('#home .widget').last().getAttribute('data-id'), '1');
+  await page.waitForFunction((end) => document.querySelector('[data-id="7"]').getBoundingClientRect().bottom < end,
+    screen.y + screen.height - 150);
+  const scrolled = await page.locator('#home').evaluate((home) => home.scrollTop);
+  assert.ok(scrolled < 7 * 196, `the dragged widget does not make the screen longer: ${scrolled}`);
+  await page.mouse.up();
+  await eventually(() => mock.home.place('home').map((widget) => widget.id), [2, 3, 4, 5, 6, 7, 1]);
+}));
+
 test('Escape gives up a drag', () => onHome(used, {}, async (page, mock) => {
   await page.getByRole('button', { name: 'Edit', exact: true }).click();
   const from = await page.locator('[data-id="1"]').boundingBox();

@@ -1,5 +1,6 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
+import { Refusal } from './mock/home.mjs';
 import { eventually, names, onHome, useBrowser } from './support/browser.mjs';
 
 const used = useBrowser();
@@ -22,6 +23,33 @@ test('A lost connection is said, and the page catches up when it is back', () =>
   mock.heal();
   await eventually(() => names(page), ['Tasks', 'Calendar', 'Mood Check-In', 'Quote of the Day']);
   await eventually(() => banner(page), '');
+}));
+
+test('A state that cannot be had is asked for again', () => onHome(used, {}, async (page, mock) => {
+  const { state } = mock.home;
+  mock.home.state = () => { throw new Refusal(502, 'The extension stopped.'); };
+  mock.home.add('quote', 'systemMedium');
+  await eventually(() => banner(page), 'Reconnecting…');
+  mock.home.state = state;
+  await eventually(() => names(page), ['Tasks', 'Calendar', 'Mood Check-In', 'Quote of the Day']);
+  assert.equal(await banner(page), '');
+}));
+
+test('A picture that cannot be had is asked for again, and the old one stays meanwhile', () => onHome(used, {}, async (page, mock) => {
+  const { draw } = mock.home.pictures;
+  let refused = 0;
+  mock.home.pictures.draw = () => {
+    refused++;
+    throw new Refusal(502, 'The extension stopped.');
+  };
+  const picture = () => page.locator('[data-id="1"] img').getAttribute('data-picture');
+  const before = await picture();
+  await page.locator('[data-id="1"]').getByRole('checkbox', { name: 'Water the ferns' }).click();
+  await page.locator('[data-id="1"]').getByRole('checkbox', { name: 'Water the ferns' }).waitFor({ state: 'detached' });
+  await eventually(() => refused > 0, true);
+  assert.equal(await picture(), before);
+  mock.home.pictures.draw = draw;
+  await page.waitForFunction((old) => document.querySelector('[data-id="1"] img').dataset.picture !== old, before);
 }));
 
 test('Without access the page says what to do', () => onHome(used, {}, async (page, mock) => {

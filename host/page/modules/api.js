@@ -13,6 +13,7 @@ export class ApiError extends Error {
  * @param {{body?: unknown, signal?: AbortSignal}} [options]
  */
 async function request(method, path, { body, signal } = {}) {
+  /** @type {Record<string, string>} */
   const headers = body === undefined ? {} : { 'Content-Type': 'application/json' };
   let response;
   try {

@@ -1,7 +1,7 @@
 import { ApiError } from './api.js';
 import { t } from './words.js';
 
-/** How long to wait before asking for a new event stream when the browser has given up on the old one. */
+/** How long to wait before asking again what failed, in milliseconds. */
 const pause = 3000;
 
 /**
@@ -14,6 +14,7 @@ export function createConnection(store, banner) {
   let events = null;
   let lost = false;
   let timer = 0;
+  let retry = 0;
 
   /** @param {string} text */
   const show = (text) => { if (banner.textContent !== text) banner.textContent = text; };
@@ -29,6 +30,7 @@ export function createConnection(store, banner) {
 
   /** Fetches the state; a failure shows in the banner. @returns {Promise<boolean>} whether it came */
   async function refresh() {
+    clearTimeout(retry);
     try {
       await store.refresh();
       lost = false;
@@ -36,6 +38,7 @@ export function createConnection(store, banner) {
       return true;
     } catch (error) {
       report(error);
+      retry = setTimeout(refresh, pause);
       return false;
     }
   }

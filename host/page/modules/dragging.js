@@ -20,6 +20,17 @@ function glide(elements, change, shrink) {
 }
 
 /**
+ * How far the screen may be scrolled; the dragged widget itself, drawn below the others, does not count.
+ * @param {Element} page
+ * @param {Element} article
+ */
+function lowest(page, article) {
+  const grid = /** @type {HTMLElement} */ (article.parentElement);
+  const foot = parseFloat(getComputedStyle(page).paddingBottom) || 0;
+  return Math.max(grid.offsetTop + grid.offsetHeight + foot - page.clientHeight, 0);
+}
+
+/**
  * Dragging widgets with a pointer: by mouse anywhere on them, by touch at the handle (elsewhere a touch scrolls).
  * @param {{isOn: () => boolean, shrink: () => number, moved: (article: Element) => void}} options
  */
@@ -41,15 +52,14 @@ export function enableDragging({ isOn, shrink, moved }) {
     if (!drag) return;
     const { article, at: [x, y] } = drag;
     const siblings = [...(article.parentElement?.children ?? [])];
-    const over = siblings.find((one) => {
-      const rect = one.getBoundingClientRect();
-      return one !== article && x > rect.left && x < rect.right && y > rect.top && y < rect.bottom;
-    }) ?? null;
-    if (over === drag.over || over?.getAnimations().length) return;
+    const others = siblings.filter((one) => one !== article);
+    const rects = others.map((one) => one.getBoundingClientRect());
+    const hit = rects.findIndex((rect) => x > rect.left && x < rect.right && y > rect.top && y < rect.bottom);
+    const below = rects.every((rect) => y > rect.bottom);
+    const over = others[hit] ?? (below ? article.parentElement : null);
+    if (over === drag.over || others.some((one) => one.getAnimations().length)) return;
     drag.over = over;
-    if (!over) return;
-    const target = siblings.indexOf(over);
-    glide(siblings.filter((one) => one !== article), () => placeNear(article, target), shrink());
+    if (over) glide(others, () => placeNear(article, hit < 0 ? others.length : siblings.indexOf(over)), shrink());
   }
 
   function scroll() {
@@ -59,7 +69,7 @@ export function enableDragging({ isOn, shrink, moved }) {
     if (page && rect) {
       const y = drag.at[1];
       const push = y < rect.top + zone ? y - rect.top - zone : y > rect.bottom - zone ? y - rect.bottom + zone : 0;
-      page.scrollTop += Math.max(-1, Math.min(1, push / zone)) * fastest;
+      page.scrollTop = Math.min(page.scrollTop + Math.max(-1, Math.min(1, push / zone)) * fastest, lowest(page, drag.article));
       reorder();
       follow();
     }

@@ -45,7 +45,7 @@ export function createGallery({ store, api, refresh, phone, tabs }) {
     return element('li', { class: 'offer', 'data-family': size.family },
       element('div', { class: 'preview', 'data-place': placeOf(size.family) }, image),
       element('span', { class: 'offer-name' }, name),
-      element('button', { type: 'button', onclick: () => add(kind, size),
+      element('button', { type: 'button', class: 'main-button', onclick: () => add(kind, size),
         'aria-label': t('Add %1$@, %2$@', kind.displayName, name) }, t('Add')));
   }
 

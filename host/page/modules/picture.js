@@ -1,13 +1,17 @@
 import { element } from './dom.js';
 
+/** How long to wait before asking again for a picture that could not be had, in milliseconds. */
+const pause = 5000;
+
 /**
  * A widget's picture. A new one takes the old one's place when it has arrived whole, and never if it cannot be had.
  */
 export function createPicture() {
   const holder = element('div', { class: 'picture' }, element('div', { class: 'placeholder' }));
   let wanted = '';
+  let timer = 0;
 
-  return {
+  const picture = {
     element: holder,
     /**
      * @param {string | null} key tells pictures apart; null: there is none yet
@@ -16,6 +20,7 @@ export function createPicture() {
     async show(key, address) {
       if (key === null || key === wanted) return;
       wanted = key;
+      clearTimeout(timer);
       const next = new Image();
       next.alt = '';
       next.draggable = false;
@@ -26,8 +31,11 @@ export function createPicture() {
         next.dataset.picture = key;
         holder.replaceChildren(next);
       } catch {
-        if (wanted === key) wanted = '';
+        if (wanted !== key) return;
+        wanted = '';
+        timer = setTimeout(() => picture.show(key, address), pause);
       }
     },
   };
+  return picture;
 }

@@ -13,7 +13,7 @@ export function createTabs() {
       byId(place).hidden = place !== chosen;
       if (focus && place === chosen) tab.focus();
     }
-    document.documentElement.dataset.place = chosen;
+    document.documentElement.dataset.screen = chosen;
     history.replaceState(null, '', chosen === 'lock' ? '#lock' : location.pathname);
   }
 

@@ -22,8 +22,13 @@ export function createTime({ store, clock, api, say, editing }) {
 
   const changes = () => (store.state?.changes ?? []).map(Date.parse).filter((change) => change > clock.now());
 
+  let drawn = '';
+
   function drawTicks() {
     const [first, last] = [Number(slider.min), Number(slider.max)];
+    const key = `${first} ${last} ${store.state?.version}`;
+    if (key === drawn) return;
+    drawn = key;
     const shares = new Set(changes().map((change) => Math.round((change / minute - first) / (last - first) * 400) / 4));
     ticks.replaceChildren(...[...shares].map((share) => {
       const tick = element('span');
@@ -49,14 +54,17 @@ export function createTime({ store, clock, api, say, editing }) {
     byId('next').disabled = !known.some((change) => change > (moment ?? now));
     byId('previous').disabled = moment === null;
     byId('now').disabled = moment === null;
-    const note = moment === null ? '' : t('This is how it will look on %@. Check boxes and links are off.', text);
-    if (away.textContent !== note) away.textContent = note;
+    if (moment === null) away.textContent = '';
     drawTicks();
   }
 
+  /** Asks for the moment on which the slider rests, and says which one it is. */
   async function ask() {
-    if (moment === null) return;
+    const { state } = store;
+    if (moment === null || !state) return;
     const asked = moment;
+    const note = t('This is how it will look on %@. Check boxes and links are off.', fullText(state, asked));
+    if (away.textContent !== note) away.textContent = note;
     asking = new AbortController();
     const { signal } = asking;
     try {

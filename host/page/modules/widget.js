@@ -37,9 +37,9 @@ export function createWidget(id, context) {
     age.hidden = !widget.failure || !state;
     if (!widget.failure || !state) return;
     const since = t('Since %1$@: %2$@', shortText(state, widget.failure.since), widget.failure.message);
-    const from = timeOrDayText(state, widget.drawnAt ?? widget.failure.since, clock.now());
+    const from = widget.drawnAt ? t('from %@', timeOrDayText(state, widget.drawnAt, clock.now())) : t('not drawn yet');
     age.title = since;
-    age.replaceChildren(t('from %@', from), element('span', { class: 'unseen' }, `. ${since}`));
+    age.replaceChildren(from, element('span', { class: 'unseen' }, `. ${since}`));
   }
 
   return {

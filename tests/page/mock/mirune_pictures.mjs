@@ -25,9 +25,11 @@ export async function mirunePictures({ now, timeZone, locale, theme = 'light' })
     const key = [taps, widget.kind, widget.family, moment, ending, scale].join(' ');
     if (!kept.has(key)) {
       const file = join(folder, `drawn-${count++}.${ending}`);
-      kept.set(key, run(program, ['render', widget.kind, widget.family, '-o', file, ...world, '--now', now, '--at', moment,
+      const drawing = run(program, ['render', widget.kind, widget.family, '-o', file, ...world, '--now', now, '--at', moment,
         '--scale', String(scale), '--appearance', widget.family.startsWith('accessory') ? 'dark' : 'light'])
-        .then(() => readFile(file)));
+        .then(() => readFile(file));
+      kept.set(key, drawing);
+      drawing.catch(() => kept.delete(key));
     }
     return kept.get(key);
   }

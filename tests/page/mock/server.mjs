@@ -91,6 +91,7 @@ export async function startMock({ pictures = 'plain', widgets = [], port = 0, ..
       const [status, type, body] = await answer(request);
       response.writeHead(status, { ...headers, 'Content-Type': type }).end(body);
     } catch (error) {
+      if (!error.status) console.error(`stand-in: ${request.method} ${request.url}: ${error.message}`);
       response.writeHead(error.status ?? 500, { ...headers, 'Content-Type': 'application/json' })
         .end(JSON.stringify({ error: error.message }));
     }

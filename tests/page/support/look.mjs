@@ -62,6 +62,15 @@ for (const theme of ['light', 'dark']) {
   mock.home.tapGate = new Promise(() => {});
   await tablet.locator('.tick').first().press('Space');
   await take(tablet, 'middle');
+  await tablet.close();
+  if (theme === 'light') {
+    Object.assign(mock.home.settings, { direction: 'rtl', locale: 'ar_EG', screen: { width: 375, height: 667 } });
+    const rtl = await open({ width: 1000, height: 800 });
+    await take(rtl, 'right-to-left');
+    await rtl.click('#edit');
+    await take(rtl, 'right-to-left-edit');
+    await rtl.close();
+  }
   await mock.close();
 }
 await browser.close();
