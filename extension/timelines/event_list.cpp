@@ -4,6 +4,11 @@
 
 namespace mirune {
 
+const DayOfEvents& EventList::emptyDay() {
+  static const DayOfEvents day = std::make_shared<const std::vector<EventWidgetInner>>();
+  return day;
+}
+
 EventList::EventList(std::initializer_list<EventWidgetInner> events) : EventList(std::vector(events)) {}
 
 EventList::EventList(std::vector<EventWidgetInner> events)
@@ -35,18 +40,16 @@ void EventList::Iterator::skipWhatIsOver() {
 }
 
 EventList::Iterator EventList::begin() const {
-  if (!day_) return {};
   return {day_->data(), day_->data() + day_->size(), moment_};
 }
 
 EventList::Iterator EventList::end() const {
-  if (!day_) return {};
   const EventWidgetInner* const end = day_->data() + day_->size();
   return {end, end, moment_};
 }
 
 bool operator==(const EventList& a, const EventList& b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end());
+  return std::ranges::equal(a, b);
 }
 
 }  // namespace mirune

@@ -74,7 +74,9 @@ class EventList {
   friend bool operator==(const EventList& a, const EventList& b);
 
  private:
-  DayOfEvents day_ = nullptr;
+  static const DayOfEvents& emptyDay();
+
+  DayOfEvents day_ = emptyDay();
   std::optional<foundation::Date> moment_ = std::nullopt;  ///< absent: all of them
   std::size_t size_ = 0;
 };

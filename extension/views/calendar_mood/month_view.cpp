@@ -27,9 +27,9 @@ View MonthView::body(const EnvironmentValues& environment) const {
   std::vector<View> rows{labels(WeekSpacing::standard)};
   std::vector<View> tightRows{labels(WeekSpacing::tight)};
   for (const foundation::Date anchor : anchors) {
-    rows.push_back(WeekView{.week = anchor, .content = content});
+    rows.emplace_back(WeekView{.week = anchor, .content = content});
     tightRows.push_back(tightGap());
-    tightRows.push_back(WeekView{.week = anchor, .content = content, .spacing = WeekSpacing::tight});
+    tightRows.emplace_back(WeekView{.week = anchor, .content = content, .spacing = WeekSpacing::tight});
   }
   return viewThatFits({vstack({}, std::move(rows)), vstack({.spacing = 0}, std::move(tightRows))});
 }
