@@ -19,7 +19,7 @@ std::vector<View> rows(const EventEntry& entry, std::size_t cap) {
   std::vector<View> views;
   for (const EventWidgetInner& event : entry.data) {
     if (views.size() == 2 * cap) break;
-    views.push_back(
+    views.emplace_back(
         EventContent{.title = event.title, .isAllDay = event.allday, .time = event.time, .color = event.color});
     views.push_back(spacer(0).frame({.maxHeight = rowGap}));
   }
