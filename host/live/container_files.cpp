@@ -56,7 +56,9 @@ ContainerFiles ContainerFiles::of(const fs::path& container, const ContainerFile
       file.content = known->second.content;
     } else if (const auto bytes = foundation::readFile(entry.path())) {
       file.content = std::hash<std::string>()(*bytes);
-      const bool isFresh = fs::file_time_type::clock::now() - file.modified < justNow;
+      // A time to come is no sign of a writer: whoever waited for it might wait for ever.
+      const auto age = fs::file_time_type::clock::now() - file.modified;
+      const bool isFresh = age < justNow && age > -justNow;
       if (isFresh && !foundation::JSON::accept(*bytes)) result.isHalfWritten_ = true;
     }
     result.files_[name] = file;
