@@ -1,7 +1,6 @@
 #pragma once
 
 #include <boost/asio/co_spawn.hpp>
-#include <boost/asio/detached.hpp>
 #include <boost/asio/io_context.hpp>
 #include <chrono>
 #include <concepts>
