@@ -11,7 +11,7 @@ namespace host {
 /// A number that grows with every change, and those who wait for the next one.
 class Broadcast {
  public:
-  explicit Broadcast(boost::asio::any_io_executor executor) : signal_(std::move(executor)) {
+  explicit Broadcast(const boost::asio::any_io_executor& executor) : signal_(executor) {
     signal_.expires_at(boost::asio::steady_timer::time_point::max());
   }
 

@@ -30,8 +30,8 @@ int openEvents() {
 
 }  // namespace
 
-FolderWatch::FolderWatch(asio::any_io_executor executor, std::vector<std::filesystem::path> folders)
-    : folders_(std::move(folders)), events_(std::move(executor), openEvents()) {
+FolderWatch::FolderWatch(const asio::any_io_executor& executor, std::vector<std::filesystem::path> folders)
+    : folders_(std::move(folders)), events_(executor, openEvents()) {
   arm();
 }
 

@@ -13,7 +13,7 @@ namespace host {
 /// or goes. A folder that is not there is waited for in the nearest one above it that is.
 class FolderWatch {
  public:
-  FolderWatch(boost::asio::any_io_executor executor, std::vector<std::filesystem::path> folders);
+  FolderWatch(const boost::asio::any_io_executor& executor, std::vector<std::filesystem::path> folders);
 
   /// Waits for the next change, of a whole burst of them until it has been calm for a moment, but no longer than two
   /// seconds.

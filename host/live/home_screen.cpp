@@ -80,7 +80,7 @@ std::unexpected<Refusal> refused(Refusal::Reason reason, std::string message) {
 
 }  // namespace
 
-HomeScreen::HomeScreen(asio::any_io_executor executor, Options options, home::HomeStore& store)
+HomeScreen::HomeScreen(const asio::any_io_executor& executor, Options options, home::HomeStore& store)
     : executor_(executor),
       options_(std::move(options)),
       store_(store),

@@ -40,7 +40,7 @@ class HomeScreen {
     ExtensionProcess::Options extension = {};
   };
 
-  HomeScreen(boost::asio::any_io_executor executor, Options options, home::HomeStore& store);
+  HomeScreen(const boost::asio::any_io_executor& executor, Options options, home::HomeStore& store);
 
   /// Asks what there is, once. The message says why that cannot be had.
   boost::asio::awaitable<std::expected<void, messages::Failure>> prepare();

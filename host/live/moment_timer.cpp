@@ -23,7 +23,7 @@ int openTimer() {
 
 }  // namespace
 
-MomentTimer::MomentTimer(asio::any_io_executor executor, LiveClock clock)
+MomentTimer::MomentTimer(const asio::any_io_executor& executor, LiveClock clock)
     : clock_(clock), realTime_(executor, openTimer()), virtualTime_(executor) {
   set(std::nullopt);
 }

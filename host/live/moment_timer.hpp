@@ -11,7 +11,7 @@ namespace host {
 /// Waits for a moment of the clock, and for nothing else: in between the machine may sleep, and the process does.
 class MomentTimer {
  public:
-  MomentTimer(boost::asio::any_io_executor executor, LiveClock clock);
+  MomentTimer(const boost::asio::any_io_executor& executor, LiveClock clock);
 
   /// Sets the moment to wait for; none waits without end. Also while someone waits.
   void set(std::optional<foundation::Date> moment);

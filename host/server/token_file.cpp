@@ -57,7 +57,7 @@ std::expected<std::string, std::string> tokenIn(const fs::path& folder, int port
   const fs::path path = folder / ("token-" + std::to_string(port));
   if (auto known = readToken(path); !known.empty()) return known;
 
-  const std::string token = newToken(random);
+  std::string token = newToken(random);
   ::unlink(path.c_str());
   const foundation::FileDescriptor file(
       ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
