@@ -1,5 +1,6 @@
 #include "host/server/http_server.hpp"
 
+#include <array>
 #include <boost/asio/co_spawn.hpp>
 #include <boost/asio/detached.hpp>
 #include <boost/asio/experimental/awaitable_operators.hpp>
@@ -134,6 +135,20 @@ std::optional<HTTPResponse> complaintAbout(const beast::error_code& error) {
   return std::nullopt;
 }
 
+/// Reads some of what is still being sent, for closing at once would take the answer away with it.
+asio::awaitable<void> drain(beast::tcp_stream& stream) {
+  constexpr std::chrono::seconds moment(1);
+  constexpr int mostReads = 1000;
+  std::array<char, 4096> bytes = {};
+  beast::error_code error;
+  stream.socket().shutdown(tcp::socket::shutdown_send, error);
+  stream.expires_after(moment);
+  for (int count = 0; count < mostReads; ++count) {
+    co_await stream.async_read_some(asio::buffer(bytes), asio::redirect_error(asio::use_awaitable, error));
+    if (error) co_return;
+  }
+}
+
 asio::awaitable<void> serve(beast::tcp_stream& stream, const HTTPServer::Handler& handler, Load& load) {
   // What is read ahead never exceeds what a request may have.
   beast::flat_static_buffer<largestHeader + largestBody> buffer;
@@ -147,7 +162,10 @@ asio::awaitable<void> serve(beast::tcp_stream& stream, const HTTPServer::Handler
     beast::error_code error;
     co_await http::async_read(stream, buffer, parser, asio::redirect_error(asio::use_awaitable, error));
     if (error) {
-      if (const auto why = complaintAbout(error)) co_await write(stream, *why, false, false);
+      if (const auto why = complaintAbout(error)) {
+        co_await write(stream, *why, false, false);
+        co_await drain(stream);
+      }
       co_return;
     }
     const bool keepsAlive = parser.get().keep_alive();
@@ -172,7 +190,6 @@ asio::awaitable<void> session(tcp::socket socket, std::shared_ptr<const HTTPServ
   beast::tcp_stream stream(std::move(socket));
   try {
     co_await serve(stream, *handler, *load);
-    // What was sent but not read would take the answer away with it; it is given a moment to arrive.
     beast::error_code ignored;
     stream.socket().shutdown(tcp::socket::shutdown_send, ignored);
   } catch (const boost::system::system_error&) {
