@@ -119,7 +119,7 @@ asio::awaitable<void> writeEvents(beast::tcp_stream& stream, const HTTPResponse&
 }
 
 HTTPResponse complaint(int status, const std::string& why) {
-  return {.status = status, .contentType = "application/json", .body = "{\"error\": \"" + why + "\"}\n"};
+  return {.status = status, .contentType = "application/json", .body = R"({"error": ")" + why + "\"}\n"};
 }
 
 /// What to say of a request that could not be read; nothing where the connection simply ended.
@@ -140,9 +140,9 @@ asio::awaitable<void> drain(beast::tcp_stream& stream) {
   constexpr std::chrono::seconds moment(1);
   constexpr int mostReads = 1000;
   std::array<char, 4096> bytes = {};
-  beast::error_code error;
-  stream.socket().shutdown(tcp::socket::shutdown_send, error);
+  stream.socket().shutdown(tcp::socket::shutdown_send);
   stream.expires_after(moment);
+  beast::error_code error;
   for (int count = 0; count < mostReads; ++count) {
     co_await stream.async_read_some(asio::buffer(bytes), asio::redirect_error(asio::use_awaitable, error));
     if (error) co_return;
@@ -190,8 +190,7 @@ asio::awaitable<void> session(tcp::socket socket, std::shared_ptr<const HTTPServ
   beast::tcp_stream stream(std::move(socket));
   try {
     co_await serve(stream, *handler, *load);
-    beast::error_code ignored;
-    stream.socket().shutdown(tcp::socket::shutdown_send, ignored);
+    stream.socket().shutdown(tcp::socket::shutdown_send);
   } catch (const boost::system::system_error&) {
     // The other side has gone, or was too slow.
   }
@@ -217,15 +216,12 @@ asio::awaitable<void> accept(tcp::acceptor& acceptor, std::shared_ptr<const HTTP
 }  // namespace
 
 std::expected<HTTPServer, std::string> HTTPServer::listening(asio::any_io_executor executor, int port) {
-  tcp::acceptor acceptor(std::move(executor));
-  const tcp::endpoint endpoint(asio::ip::address_v4::loopback(), static_cast<asio::ip::port_type>(port));
-  boost::system::error_code error;
-  acceptor.open(endpoint.protocol(), error);
-  if (!error) acceptor.set_option(tcp::acceptor::reuse_address(true), error);
-  if (!error) acceptor.bind(endpoint, error);
-  if (!error) acceptor.listen(asio::socket_base::max_listen_connections, error);
-  if (error) return std::unexpected("port " + std::to_string(port) + ": " + error.message());
-  return HTTPServer(std::move(acceptor));
+  try {
+    const tcp::endpoint endpoint(asio::ip::address_v4::loopback(), static_cast<asio::ip::port_type>(port));
+    return HTTPServer(tcp::acceptor(std::move(executor), endpoint));
+  } catch (const boost::system::system_error& error) {
+    return std::unexpected("port " + std::to_string(port) + ": " + error.code().message());
+  }
 }
 
 void HTTPServer::start(Handler handler) {

@@ -44,7 +44,10 @@ std::array<std::string, 7> Calendar::veryShortWeekdaySymbols() const {
       symbols.getWeekdays(count, icu::DateFormatSymbols::FORMAT, icu::DateFormatSymbols::NARROW);
   std::array<std::string, 7> result;
   // ICU's list begins with an empty name, for its weekdays count from 1.
-  for (std::int32_t i = 1; i < count && i <= 7; ++i) names[i].toUTF8String(result[static_cast<std::size_t>(i) - 1]);
+  for (std::int32_t i = 1; i < count && i <= 7; ++i) {
+    // NOLINTNEXTLINE(bugprone-pointer-arithmetic-on-polymorphic-object): ICU's array is one of this very type
+    names[i].toUTF8String(result[static_cast<std::size_t>(i) - 1]);
+  }
   return result;
 }
 
