@@ -215,10 +215,10 @@ asio::awaitable<void> accept(tcp::acceptor& acceptor, std::shared_ptr<const HTTP
 
 }  // namespace
 
-std::expected<HTTPServer, std::string> HTTPServer::listening(asio::any_io_executor executor, int port) {
+std::expected<HTTPServer, std::string> HTTPServer::listening(const asio::any_io_executor& executor, int port) {
   try {
     const tcp::endpoint endpoint(asio::ip::address_v4::loopback(), static_cast<asio::ip::port_type>(port));
-    return HTTPServer(tcp::acceptor(std::move(executor), endpoint));
+    return HTTPServer(tcp::acceptor(executor, endpoint));
   } catch (const boost::system::system_error& error) {
     return std::unexpected("port " + std::to_string(port) + ": " + error.code().message());
   }

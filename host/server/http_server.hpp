@@ -19,7 +19,7 @@ class HTTPServer {
   using Handler = std::function<boost::asio::awaitable<HTTPResponse>(HTTPRequest)>;
 
   /// Takes the port, 0 for any that is free. The error is one line.
-  static std::expected<HTTPServer, std::string> listening(boost::asio::any_io_executor executor, int port);
+  static std::expected<HTTPServer, std::string> listening(const boost::asio::any_io_executor& executor, int port);
 
   int port() const { return acceptor_.local_endpoint().port(); }
   /// Begins to answer; ends with the executor.
