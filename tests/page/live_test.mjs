@@ -4,9 +4,12 @@ import { Refusal } from './mock/home.mjs';
 import { eventually, names, onHome, useBrowser } from './support/browser.mjs';
 
 const used = useBrowser();
+/** Waits until all that is placed at the start is drawn. */
+const drawn = (page) => eventually(() => page.locator('#home .widget .picture img').count(), 3);
 const banner = (page) => page.locator('#connection').textContent();
 
 test('A change on the host arrives without a reload, and only what changed is fetched', () => onHome(used, {}, async (page, mock) => {
+  await drawn(page);
   const asked = mock.requests.length;
   mock.home.add('habits', 'systemSmall');
   await eventually(() => names(page), ['Tasks', 'Calendar', 'Mood Check-In', 'Habits']);
@@ -16,6 +19,7 @@ test('A change on the host arrives without a reload, and only what changed is fe
 }));
 
 test('A lost connection is said, and the page catches up when it is back', () => onHome(used, {}, async (page, mock) => {
+  await drawn(page);
   mock.cut();
   await eventually(() => banner(page), 'Reconnecting…');
   assert.equal(await page.locator('#home img').count(), 3);
@@ -26,6 +30,7 @@ test('A lost connection is said, and the page catches up when it is back', () =>
 }));
 
 test('A state that cannot be had is asked for again', () => onHome(used, {}, async (page, mock) => {
+  await drawn(page);
   const { state } = mock.home;
   mock.home.state = () => { throw new Refusal(502, 'The extension stopped.'); };
   mock.home.add('quote', 'systemMedium');
@@ -36,6 +41,7 @@ test('A state that cannot be had is asked for again', () => onHome(used, {}, asy
 }));
 
 test('A picture that cannot be had is asked for again, and the old one stays meanwhile', () => onHome(used, {}, async (page, mock) => {
+  await drawn(page);
   const { draw } = mock.home.pictures;
   let refused = 0;
   mock.home.pictures.draw = () => {

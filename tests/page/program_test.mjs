@@ -39,7 +39,7 @@ test('All widgets of the first start are drawn, and a tick is recorded in both f
   await assertAccessible(page, 'home');
 }));
 
-test('Midnight passes', { skip }, () => onProgram(['--now', '2026-11-20T22:59:50Z', '--speed', '2'], async (page) => {
+test('Midnight passes', { skip }, () => onProgram(['--now', '2026-11-20T22:55:00Z', '--speed', '15'], async (page) => {
   await eventually(async () => typeof await pictureOf(page, 'Calendar'), 'string');
   const before = await pictureOf(page, 'Calendar');
   await page.waitForFunction((old) => [...document.querySelectorAll('#home .widget')]

@@ -9,7 +9,7 @@ const axe = await readFile(createRequire(import.meta.url).resolve('axe-core/axe.
 const executablePath = process.env.CHROMIUM ?? '/usr/bin/chromium';
 
 /** How long a condition may take, in milliseconds. */
-const patience = 10_000;
+const patience = 30_000;
 
 /** Starts one browser for the tests of a file; call it at the file's top level. */
 export function useBrowser() {
