@@ -43,8 +43,8 @@ std::size_t lookOf(const fs::path& folder) {
 
 ContainerFiles ContainerFiles::of(const fs::path& container, const ContainerFiles& before) {
   ContainerFiles result;
-  result.look_ = lookOf(container / "icons");
-  mix(result.look_, lookOf(container / "Library" / "Preferences"));
+  result.icons_ = lookOf(container / "icons");
+  result.settings_ = lookOf(container / "Library" / "Preferences");
   forEachFile(container, [&](const fs::directory_entry& entry) {
     if (entry.path().extension() != ".json") return;
     std::error_code unknown;

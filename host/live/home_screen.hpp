@@ -2,7 +2,6 @@
 
 #include <boost/asio/awaitable.hpp>
 #include <boost/asio/steady_timer.hpp>
-#include <expected>
 #include <map>
 #include <vector>
 
@@ -13,19 +12,10 @@
 #include "host/live/extension_worker.hpp"
 #include "host/live/kind_timeline.hpp"
 #include "host/live/moment_timer.hpp"
+#include "host/live/refusal.hpp"
 #include "host/live/shown_widget.hpp"
 
 namespace host {
-
-/// Why something that was asked of the home screen was not done.
-struct Refusal {
-  enum class Reason { unknown, impossible, noRoom, failed };
-  Reason reason = Reason::failed;
-  std::string message = {};
-};
-
-template <class Value>
-using Result = std::expected<Value, Refusal>;
 
 /// The live home screen: the placed widgets, what they show, and what has to happen when. All on one executor.
 ///
@@ -94,6 +84,8 @@ class HomeScreen {
   void letExtensionGoWhenIdle();
 
   foundation::Calendar calendar() const;
+  /// Nothing where this version of the extension does not know the kind.
+  const messages::WidgetDescription* description(const std::string& kind) const;
   ShownWidget* find(std::int64_t id);
   std::optional<std::size_t> entryAt(const std::string& kind, foundation::Date moment) const;
 

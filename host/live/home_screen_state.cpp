@@ -72,9 +72,9 @@ JSON HomeScreen::state() const {
   JSON widgets = JSON::array();
   for (const ShownWidget& widget : widgets_) {
     const home::PlacedWidget& placed = widget.placed;
-    const auto known = std::ranges::find(catalogue_.widgets, placed.kind, &messages::WidgetDescription::kind);
+    const auto* known = description(placed.kind);
     const auto size = std::ranges::find(catalogue_.sizes, placed.family, &messages::FamilySize::family);
-    if (known == catalogue_.widgets.end() || size == catalogue_.sizes.end()) continue;
+    if (known == nullptr || size == catalogue_.sizes.end()) continue;
     const bool isHome = placed.place == home::Place::home;
     const JSON none;
     const JSON& document = widget.drawn ? widget.drawn->document : none;

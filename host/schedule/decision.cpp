@@ -1,19 +1,12 @@
 #include "schedule/decision.hpp"
 
-#include <algorithm>
+#include "schedule/retry_pause.hpp"
 
 namespace host {
 
 namespace {
 
 using foundation::Date;
-using std::chrono::seconds;
-
-seconds pauseAfter(const Failures& failures) {
-  constexpr seconds longest = std::chrono::minutes(15);
-  constexpr int doublings = 10;  // 1024 s are more than the longest
-  return std::min(longest, seconds(1 << std::clamp(failures.count - 1, 0, doublings)));
-}
 
 RequestReason reasonOf(OutsideEvent event) {
   switch (event) {
@@ -32,7 +25,7 @@ std::optional<NextRequest> nextRequest(const TimelineState& state, Date now) {
   if (!state.asked && !state.failures) return NextRequest{.at = now, .reason = RequestReason::first};
   if (state.outside) return NextRequest{.at = now, .reason = reasonOf(*state.outside)};
   if (state.failures) {
-    return NextRequest{.at = state.failures->last + pauseAfter(*state.failures), .reason = RequestReason::retry};
+    return NextRequest{.at = state.failures->last + retryPause(state.failures->count), .reason = RequestReason::retry};
   }
   return state.due;
 }

@@ -150,6 +150,10 @@ TEST_F(LiveServer, FollowsItsContainer) {
   changesAfter("a file gone", [&] { std::filesystem::remove(folder / "container/events.json"); });
   changesAfter("the file back",
                [&] { std::filesystem::rename(folder / "was-empty/events.json", folder / "container/events.json"); });
+  changesAfter("another icon by a name that pictures know", [&] {
+    support::writeBytes(folder / "container/icons/cat-circle_birthday.svg",
+                        R"(<svg xmlns="http://www.w3.org/2000/svg" width="40" height="40"/>)");
+  });
   changesAfter("all gone", [&] { std::filesystem::remove_all(folder / "container"); });
   changesAfter("all back", [&] { writeDemo("container"); });
 }
