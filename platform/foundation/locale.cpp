@@ -96,6 +96,12 @@ std::string Locale::language() const {
   return identifier_.substr(0, identifier_.find_first_of("_@"));
 }
 
+std::string Locale::languageTag() const {
+  std::string tag = identifier_.substr(0, identifier_.find('@'));
+  std::ranges::replace(tag, '_', '-');
+  return tag;
+}
+
 bool Locale::isRightToLeft() const {
   return uloc_isRightToLeft(identifier_.c_str()) != 0;
 }

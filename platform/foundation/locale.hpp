@@ -20,6 +20,8 @@ class Locale {
   const std::string& identifier() const { return identifier_; }
   /// "de", "zh".
   std::string language() const;
+  /// By which the web and fonts know the language: "zh-Hans-CN".
+  std::string languageTag() const;
   /// Whether the language is written from right to left.
   bool isRightToLeft() const;
 

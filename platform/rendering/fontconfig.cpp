@@ -3,7 +3,9 @@
 namespace rendering {
 namespace {
 
-// Emoji are pictures of one size: the last rule has them drawn at the size that is asked for.
+// Letters that a font lacks are looked for in the families behind it, in their order; Chinese, Japanese and Korean draw
+// the same characters in different ways, so the reader's language comes first. Emoji are pictures of one size: the last
+// rule has them drawn at the size that is asked for.
 constexpr auto configuration = R"(<?xml version="1.0"?>
 <fontconfig>
   <dir>/usr/share/fonts</dir>
@@ -15,6 +17,30 @@ constexpr auto configuration = R"(<?xml version="1.0"?>
     <family>emoji</family>
     <prefer><family>Noto Color Emoji</family></prefer>
   </alias>
+  <match target="pattern">
+    <test name="lang" compare="contains"><string>ja</string></test>
+    <edit name="family" mode="append_last"><string>Noto Sans CJK JP</string></edit>
+  </match>
+  <match target="pattern">
+    <test name="lang" compare="contains"><string>ko</string></test>
+    <edit name="family" mode="append_last"><string>Noto Sans CJK KR</string></edit>
+  </match>
+  <match target="pattern">
+    <test name="lang" compare="contains"><string>zh-tw</string></test>
+    <edit name="family" mode="append_last"><string>Noto Sans CJK TC</string></edit>
+  </match>
+  <match target="pattern">
+    <test name="lang" compare="contains"><string>zh-hk</string></test>
+    <edit name="family" mode="append_last"><string>Noto Sans CJK HK</string></edit>
+  </match>
+  <match target="pattern">
+    <edit name="family" mode="append_last">
+      <string>Noto Sans CJK SC</string>
+      <string>Noto Sans Arabic UI</string>
+      <string>Noto Sans Hebrew</string>
+      <string>Noto Sans Devanagari UI</string>
+    </edit>
+  </match>
   <match target="font">
     <test name="outline"><bool>false</bool></test>
     <edit name="matrix" mode="assign">

@@ -34,7 +34,64 @@ int pangoUnits(double points) {
   return static_cast<int>(std::lround(points * PANGO_SCALE));
 }
 
+/// Whether the script's letters hang together: on a line of their own, or by the line that they hang from.
+bool joinsLetters(gunichar character) {
+  switch (g_unichar_get_script(character)) {
+    case G_UNICODE_SCRIPT_ARABIC:
+    case G_UNICODE_SCRIPT_SYRIAC:
+    case G_UNICODE_SCRIPT_NKO:
+    case G_UNICODE_SCRIPT_MONGOLIAN:
+    case G_UNICODE_SCRIPT_DEVANAGARI:
+    case G_UNICODE_SCRIPT_BENGALI:
+    case G_UNICODE_SCRIPT_GURMUKHI:
+      return true;
+    default:
+      return false;
+  }
+}
+
+using AttributeList =
+    std::unique_ptr<PangoAttrList, decltype([](PangoAttrList* list) { pango_attr_list_unref(list); })>;
+
+/// The spacing of all letters but those that it would tear apart.
+AttributeList letterSpacing(const std::string& content, double spacing) {
+  AttributeList attributes(pango_attr_list_new());
+  const auto space = [&](const char* from, const char* to) {
+    if (from == to) return;
+    PangoAttribute* attribute = pango_attr_letter_spacing_new(pangoUnits(spacing));
+    attribute->start_index = static_cast<guint>(from - content.c_str());
+    attribute->end_index = static_cast<guint>(to - content.c_str());
+    pango_attr_list_insert(attributes.get(), attribute);
+  };
+  const char* const end = content.c_str() + content.size();
+  const char* start = content.c_str();
+  for (const char* at = start; at < end; at = g_utf8_next_char(at)) {
+    if (!joinsLetters(g_utf8_get_char(at))) continue;
+    space(start, at);
+    start = g_utf8_next_char(at);
+  }
+  space(start, end);
+  return attributes;
+}
+
+/// As fontconfig's tables of languages have it: they tell the ways to write Chinese apart by territory.
+PangoLanguage* pangoLanguage(const std::string& tag) {
+  std::string name = tag;
+  if (tag.starts_with("zh")) {
+    const bool isHongKong = tag.contains("HK") || tag.contains("MO");
+    const bool isTraditional = isHongKong || tag.contains("Hant") || tag.contains("TW");
+    name = isHongKong ? "zh-hk" : isTraditional ? "zh-tw" : "zh-cn";
+  }
+  return pango_language_from_string(name.c_str());
+}
+
 }  // namespace
+
+double GlyphStyle::spacingBehind(std::string_view line) const {
+  if (spacing == 0 || line.empty()) return 0;
+  const char* const last = g_utf8_find_prev_char(line.data(), line.data() + line.size());
+  return last != nullptr && joinsLetters(g_utf8_get_char(last)) ? 0 : spacing;
+}
 
 GlyphText::GlyphText()
     : fontconfig_(makeFontconfig()), fontMap_(pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT)) {
@@ -53,14 +110,12 @@ GObjectHandle<PangoLayout> GlyphText::paragraph(const std::string& content, cons
   pango_context_set_base_dir(context_.get(), style.direction == swiftui::LayoutDirection::rightToLeft
                                                  ? PANGO_DIRECTION_WEAK_RTL
                                                  : PANGO_DIRECTION_WEAK_LTR);
+  pango_context_set_language(context_.get(), pangoLanguage(style.language));
   GObjectHandle<PangoLayout> layout(pango_layout_new(context_.get()));
   pango_layout_set_text(layout.get(), content.c_str(), static_cast<int>(content.size()));
   pango_layout_set_font_description(layout.get(), description(style.font).get());
   if (style.spacing != 0) {
-    PangoAttrList* attributes = pango_attr_list_new();
-    pango_attr_list_insert(attributes, pango_attr_letter_spacing_new(pangoUnits(style.spacing)));
-    pango_layout_set_attributes(layout.get(), attributes);
-    pango_attr_list_unref(attributes);
+    pango_layout_set_attributes(layout.get(), letterSpacing(content, style.spacing).get());
   }
   return layout;
 }

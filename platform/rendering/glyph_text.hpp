@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "rendering/fontconfig.hpp"
 #include "rendering/gobject.hpp"
@@ -16,8 +17,12 @@ namespace rendering {
 /// A font as the shaper is asked for it.
 struct GlyphStyle {
   swiftui::Font font = {};  ///< at the size that it is drawn with
-  double spacing = 0;       ///< added to the width of every character, points
+  double spacing = 0;       ///< added to the width of every character that stands apart from the next one, points
   swiftui::LayoutDirection direction = swiftui::LayoutDirection::leftToRight;
+  std::string language = "en";
+
+  /// The spacing that a line ends with: that of its last character.
+  double spacingBehind(std::string_view line) const;
 };
 
 struct FreePangoFontDescription {

@@ -9,21 +9,21 @@ namespace {
 using swiftui::TextLine;
 
 /// The shaper puts the spacing between characters; the platform also behind the last one.
-double lineWidth(PangoLayoutLine* line, double spacing) {
+double lineWidth(PangoLayoutLine* line, std::string_view content, const GlyphStyle& style) {
   PangoRectangle logical;
   pango_layout_line_get_extents(line, nullptr, &logical);
-  return line->length > 0 ? std::max(0.0, pango_units_to_double(logical.width) + spacing) : 0;
+  return content.empty() ? 0 : std::max(0.0, pango_units_to_double(logical.width) + style.spacingBehind(content));
 }
 
 double widthOf(const GlyphText& glyphs, const std::string& content, const GlyphStyle& style) {
   const auto paragraph = glyphs.paragraph(content, style);
-  return lineWidth(pango_layout_get_line_readonly(paragraph.get(), 0), style.spacing);
+  return lineWidth(pango_layout_get_line_readonly(paragraph.get(), 0), content, style);
 }
 
-void setWidth(PangoLayout* paragraph, std::optional<double> width, double spacing) {
+void setWidth(PangoLayout* paragraph, std::optional<double> width, double spacingBehind) {
   if (!width || std::isinf(*width)) return;
   // Pango counts in whole units: to the next one, so that a text fits into the width that it was measured with.
-  const double units = std::ceil((*width - spacing) * PANGO_SCALE - widthTolerance);
+  const double units = std::ceil((*width - spacingBehind) * PANGO_SCALE - widthTolerance);
   pango_layout_set_width(paragraph, static_cast<int>(std::clamp(units, 1.0, 1e9)));
   pango_layout_set_wrap(paragraph, PANGO_WRAP_WORD_CHAR);
 }
@@ -52,7 +52,7 @@ BrokenText linesOf(const GlyphText& glyphs, PangoLayout* paragraph, const std::s
     const bool followsBreak = start == 0 || content[start - 1] == '\n' || attributes[character].is_line_break != 0;
     broken.breaksWord = broken.breaksWord || !followsBreak;
     std::string text = content.substr(start, static_cast<std::size_t>(line->length));
-    const double width = lineWidth(line, style.spacing);
+    const double width = lineWidth(line, text, style);
     broken.lines.push_back({.start = start,
                             .shown = item->next != nullptr ? brokenLine(glyphs, std::move(text), width, style)
                                                            : TextLine{.content = std::move(text), .width = width}});
@@ -83,7 +83,7 @@ void dropBlanksAtEnd(std::string& content) {
 BrokenText breakText(const GlyphText& glyphs, const std::string& content, const GlyphStyle& style,
                      std::optional<double> width) {
   const auto paragraph = glyphs.paragraph(content, style);
-  setWidth(paragraph.get(), width, style.spacing);
+  setWidth(paragraph.get(), width, style.spacingBehind(content));
   BrokenText broken = linesOf(glyphs, paragraph.get(), content, style);
   if (!width || std::isinf(*width)) return broken;
   // Where it breaks a line the shaper counts the spacing around the blank in another way than in the line by itself.
@@ -93,7 +93,7 @@ BrokenText breakText(const GlyphText& glyphs, const std::string& content, const 
     const double excess = broken.width - *width;
     if (excess <= widthTolerance || excess > mostMiscounted) break;
     narrowed -= std::max(excess, std::abs(style.spacing));
-    setWidth(paragraph.get(), narrowed, style.spacing);
+    setWidth(paragraph.get(), narrowed, style.spacingBehind(content));
     broken = linesOf(glyphs, paragraph.get(), content, style);
   }
   return broken;
@@ -103,10 +103,10 @@ TextLine truncatedLine(const GlyphText& glyphs, const std::string& content, bool
                        std::optional<double> width) {
   const auto paragraph = glyphs.paragraph(continues ? content + std::string(ellipsis) : content, style);
   pango_layout_set_ellipsize(paragraph.get(), PANGO_ELLIPSIZE_END);
-  setWidth(paragraph.get(), width, style.spacing);
+  setWidth(paragraph.get(), width, style.spacingBehind(content));
   PangoLayoutLine* line = pango_layout_get_line_readonly(paragraph.get(), 0);
   const auto cut = cutPosition(line);
-  if (!cut && !continues) return {.content = content, .width = lineWidth(line, style.spacing)};
+  if (!cut && !continues) return {.content = content, .width = lineWidth(line, content, style)};
 
   int count = 0;
   const PangoLogAttr* attributes = pango_layout_get_log_attrs_readonly(paragraph.get(), &count);

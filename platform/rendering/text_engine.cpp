@@ -33,7 +33,10 @@ Font scaled(Font font, double scale) {
 GlyphStyle glyphStyle(const TextStyle& style, double scale) {
   double spacing = style.kerning;
   if (style.font.name.empty()) spacing += systemTracking(style.font.size, style.font.weight) * style.font.size;
-  return {.font = scaled(style.font, scale), .spacing = spacing * scale, .direction = style.direction};
+  return {.font = scaled(style.font, scale),
+          .spacing = spacing * scale,
+          .direction = style.direction,
+          .language = style.language};
 }
 
 std::size_t allowedLines(const TextStyle& style, ProposedSize proposal, double lineHeight) {
@@ -118,7 +121,7 @@ void TextEngine::drawLine(cairo_t* cairo, const std::string& line, const TextSty
   PangoLayoutLine* glyphLine = pango_layout_get_line_readonly(paragraph.get(), 0);
   // The spacing behind the last character stands to the left of it where writing runs to the left.
   const bool runsToTheLeft = pango_layout_line_get_resolved_direction(glyphLine) == PANGO_DIRECTION_RTL;
-  cairo_move_to(cairo, origin.x + (runsToTheLeft ? glyphs.spacing : 0), origin.y);
+  cairo_move_to(cairo, origin.x + (runsToTheLeft ? glyphs.spacingBehind(line) : 0), origin.y);
   if (style.font.design != swiftui::FontDesign::rounded) {
     pango_cairo_show_layout_line(cairo, glyphLine);
     return;

@@ -32,6 +32,7 @@ struct TextStyle {
   double minimumScaleFactor = 1;
   TextAlignment alignment = TextAlignment::leading;
   LayoutDirection direction = LayoutDirection::leftToRight;
+  std::string language = "en";  ///< of the reader ("zh-Hans-CN"): languages draw the same character in different ways
 
   friend bool operator==(const TextStyle&, const TextStyle&) = default;
 };

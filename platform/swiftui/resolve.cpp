@@ -46,7 +46,8 @@ class Resolver {
                                                   .lineLimit = environment.lineLimit,
                                                   .minimumScaleFactor = environment.minimumScaleFactor,
                                                   .alignment = environment.multilineTextAlignment,
-                                                  .direction = environment.layoutDirection},
+                                                  .direction = environment.layoutDirection,
+                                                  .language = environment.platform->calendar.locale().languageTag()},
                                         .paint = paint(environment)}});
   }
   void append(const ImageNode& node, const EnvironmentValues& environment, Elements& out) {

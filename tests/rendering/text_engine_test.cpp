@@ -83,6 +83,54 @@ TEST(TextEngine, PutsTheKerningBehindEachCharacter) {
   }
 }
 
+TEST(TextEngine, TearsNoJoinedLettersApart) {
+  const TextStyle plain{.font = swiftui::system(13)};
+  TextStyle kerned = plain;
+  kerned.kerning = 1.5;
+  for (const char* joined : {"نوفمبر", "नवंबर", "ਨਵੰਬਰ"}) {
+    EXPECT_NEAR(width(joined, kerned), width(joined, plain), 1e-9) << joined;
+    EXPECT_GT(width(joined, plain), 10) << joined;
+    // Beside it other letters keep their spacing, with half of it before the first of them.
+    EXPECT_NEAR(width(std::string(joined) + " ab", kerned), width(std::string(joined) + " ab", plain) + 3.5 * 1.5, 0.01)
+        << joined;
+  }
+}
+
+/// Stands for the picture of a line.
+std::size_t stencilOf(const std::string& line, const TextStyle& style) {
+  const SurfaceHandle surface(cairo_image_surface_create(CAIRO_FORMAT_A8, 200, 200));
+  const CairoHandle cairo(cairo_create(surface.get()));
+  cairo_scale(cairo.get(), 10, 10);
+  engine().drawLine(cairo.get(), line, style, 1, {.x = 2, .y = 14});
+  cairo_surface_flush(surface.get());
+  const auto* pixels = reinterpret_cast<const char*>(cairo_image_surface_get_data(surface.get()));
+  const auto size = static_cast<std::size_t>(200 * cairo_image_surface_get_stride(surface.get()));
+  return std::hash<std::string_view>()({pixels, size});
+}
+
+TEST(TextEngine, HasLettersOfEveryLanguage) {
+  const std::size_t unknown = stencilOf("\U0010FFFD", {.font = swiftui::system(13)});
+  for (const char* content : {"日", "本", "か", "ネ", "简", "한", "글", "ع", "ש", "न", "ж", "ş", "ã", "Ω"}) {
+    for (const auto weight : {FontWeight::light, FontWeight::bold}) {
+      const TextStyle style{.font = swiftui::system(13, weight)};
+      EXPECT_NE(stencilOf(content, style), unknown) << content;
+      const auto [left, right] = inkOf(content, style);
+      EXPECT_GT(right - left, 20) << content;
+      EXPECT_LT(right - left, 150) << content;
+    }
+  }
+}
+
+TEST(TextEngine, DrawsHanAsTheReaderKnowsThem) {
+  const auto drawn = [](const char* language) {
+    return stencilOf("骨", {.font = swiftui::system(13), .language = language});
+  };
+  EXPECT_NE(drawn("ja"), drawn("zh-CN"));
+  EXPECT_NE(drawn("zh-TW"), drawn("zh-CN"));
+  EXPECT_EQ(drawn("zh-Hans-SG"), drawn("zh-CN"));
+  EXPECT_EQ(drawn("zh-Hant"), drawn("zh-TW"));
+}
+
 TEST(TextEngine, BreaksAtWordsAndInsideThemOnlyWhereOneIsTooLong) {
   const TextStyle style{.font = swiftui::system(12)};
   EXPECT_EQ(linesOf(engine().layoutText("some words that wrap", style, {.width = 70})),
