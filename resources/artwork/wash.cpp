@@ -148,7 +148,7 @@ Colour covering(const Wash& wash, const Pigment& pigment) {
   const double lift = (pigment.load < 1 ? 0.22 : 0.42) * (pigment.load - 1);
   const Colour glow{
       .red = std::pow(body.red, 0.6), .green = std::pow(body.green, 0.6), .blue = std::pow(body.blue, 0.6)};
-  const Colour lit = mix(body, lift < 0 ? paperOf(Appearance::dark) : glow, std::min(0.35, std::abs(lift)));
+  const Colour lit = mix(body, lift < 0 ? paperOf(Appearance::dark) : glow, std::min(0.28, std::abs(lift)));
   return {.red = lit.red, .green = lit.green, .blue = lit.blue, .alpha = 1 - std::exp(-2.6 * pigment.load)};
 }
 
