@@ -71,7 +71,7 @@ class Png {
 /// Visits the part that the day number stands on, pixel by pixel.
 void overMiddle(const Png& picture, const Rgb& paper, auto&& visit) {
   for (int y = picture.height() / 5; y < picture.height() * 4 / 5; ++y) {
-    for (int x = picture.width() / 5; x < picture.width() * 4 / 5; ++x) visit(picture.over(paper, x, y));
+    for (int x = picture.width() / 12; x < picture.width() * 11 / 12; ++x) visit(picture.over(paper, x, y));
   }
 }
 
