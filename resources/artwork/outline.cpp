@@ -25,7 +25,7 @@ std::vector<double> randomReach(Dice& dice) {
   };
   std::vector<Wave> waves;
   for (int lobes = 2; lobes <= 6; ++lobes) {
-    waves.push_back({.strength = 0.11 / lobes * (0.35 + std::abs(dice.swing())), .phase = dice.between(0, fullTurn)});
+    waves.push_back({.strength = 0.09 / lobes * (0.35 + std::abs(dice.swing())), .phase = dice.between(0, fullTurn)});
   }
   const std::uint64_t fingers = dice.seed(), ripples = dice.seed();
 

@@ -62,8 +62,8 @@ class Dab {
  public:
   explicit Dab(std::uint64_t seed)
       : dice_(seed),
-        layers_{layer({.left = 1.5, .top = 1.5, .width = width - 3, .height = height - 3}, 0.62, 0.05, 0.46, 3),
-                layer(within(0.7, 0.88), 0.25, 0.3, 0.2, 9), layer(within(0.45, 0.64), 0.22, 0.85, 0.05, 24)},
+        layers_{layer({.left = 1.5, .top = 1.5, .width = width - 3, .height = height - 3}, 0.62, 0.05, 0.44, 4.5),
+                layer(within(0.7, 0.88), 0.25, 0.3, 0.1, 16), layer(within(0.45, 0.7), 0.22, 0.85, 0, 30)},
         flowAngle_(dice_.between(0, 2 * std::numbers::pi)),
         bleedAngle_(flowAngle_ + dice_.between(-1.2, 1.2)),
         grain_(dice_.seed()),
@@ -109,8 +109,8 @@ class Dab {
     return {.outline = Outline(dice_, box),
             .load = load * (1 + 0.12 * dice_.swing()),
             .bled = bled,
-            .rim = rim * (1 + 0.25 * dice_.swing()),
-            .dampness = dampness,
+            .rim = rim * (1 + 0.35 * dice_.swing()),
+            .dampness = dampness * (1 + 0.6 * dice_.swing()),
             .seed = dice_.seed()};
   }
 
@@ -142,12 +142,13 @@ Colour glazed(const Wash& wash, const Pigment& pigment) {
           .alpha = alpha};
 }
 
-/// A body colour covers dark paper instead; where much of it gathers it catches the light.
+/// A body colour covers dark paper instead; where much of it gathers it glows, in its own hue rather than chalkily.
 Colour covering(const Wash& wash, const Pigment& pigment) {
   const Colour body = mix(wash.main, wash.bleed, pigment.bled);
-  const double lift = 0.3 * (pigment.load - 1);
-  const Colour lit = mix(body, lift < 0 ? paperOf(Appearance::dark) : Colour{.red = 1, .green = 1, .blue = 1},
-                         std::min(0.25, std::abs(lift)));
+  const double lift = (pigment.load < 1 ? 0.22 : 0.42) * (pigment.load - 1);
+  const Colour glow{
+      .red = std::pow(body.red, 0.6), .green = std::pow(body.green, 0.6), .blue = std::pow(body.blue, 0.6)};
+  const Colour lit = mix(body, lift < 0 ? paperOf(Appearance::dark) : glow, std::min(0.28, std::abs(lift)));
   return {.red = lit.red, .green = lit.green, .blue = lit.blue, .alpha = 1 - std::exp(-2.6 * pigment.load)};
 }
 
