@@ -35,6 +35,8 @@ void WorldOptions::addTo(CLI::App& app) {
   add("--screen", world_.screen, "WxH", "Screen in points, portrait (else 390x844)");
   add("--system-version", world_.systemVersion, "N", "Major version of the platform (else 17)");
   add("--appearance", world_.appearance, "light|dark", "What the system is set to (else light)");
+  app.add_flag("--redacted", world_.isRedacted, "Mask what widgets say, as before a device is first unlocked")
+      ->group("Device");
   add("--planner-url", world_.plannerURL, "URL", "Where links of widgets lead to (else https://planner.example)");
 }
 

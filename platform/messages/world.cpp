@@ -15,6 +15,7 @@ void to_json(JSON& json, const World& world) {
           {"screen", world.screen},
           {"systemVersion", world.systemVersion},
           {"appearance", world.appearance},
+          {"isRedacted", world.isRedacted},
           {"plannerURL", world.plannerURL}};
 }
 
@@ -26,6 +27,7 @@ void from_json(const JSON& json, World& world) {
            .screen = field<std::string>(json, "screen"),
            .systemVersion = integerField(json, "systemVersion"),
            .appearance = field<std::string>(json, "appearance"),
+           .isRedacted = field<bool>(json, "isRedacted"),
            .plannerURL = field<std::string>(json, "plannerURL")};
 }
 

@@ -17,6 +17,7 @@ struct World {
   std::string screen = "390x844";                      ///< WIDTHxHEIGHT in points, portrait
   int systemVersion = 17;                              ///< the platform's major version
   std::string appearance = "light";                    ///< what the system is set to: "light" or "dark"
+  bool isRedacted = false;                             ///< texts and pictures are masked
   std::string plannerURL = "https://planner.example";  ///< where the planner's pages are: what links lead to
 
   friend bool operator==(const World&, const World&) = default;

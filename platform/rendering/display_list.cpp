@@ -1,5 +1,7 @@
 #include "rendering/display_list.hpp"
 
+#include <algorithm>
+
 #include "swiftui/overload.hpp"
 
 namespace rendering {
@@ -43,6 +45,32 @@ DrawText drawText(const PlacedElement& placed, const TextElement& text) {
   return draw;
 }
 
+// How masked content looks is nowhere published: pale bars as wide as the lines and as high as their capitals.
+constexpr double maskOpacity = 0.16;
+
+DrawShape mask(Rect frame, double cornerRadius, uikit::RGBA color, double opacity) {
+  return {.shape = RoundedRectangle{.cornerRadius = cornerRadius},
+          .frame = frame,
+          .ink = {.color = color, .opacity = opacity * maskOpacity}};
+}
+
+void maskText(const PlacedElement& placed, const TextElement& text, DisplayList& list) {
+  const DrawText drawn = drawText(placed, text);
+  const double height = placed.text->metrics.capHeight * 1.2;
+  for (std::size_t i = 0; i < drawn.lines.size(); ++i) {
+    const double width = placed.text->lines[i].width;
+    const Point baseline = drawn.lines[i].origin;
+    if (width <= 0) continue;
+    list.emplace_back(mask({.origin = {.x = baseline.x, .y = baseline.y - height / 1.1}, .size = {width, height}},
+                           height / 3, text.paint.color, text.paint.opacity));
+  }
+}
+
+void maskImage(const PlacedElement& placed, const ImageElement& image, DisplayList& list) {
+  const double side = std::min(placed.frame.size.width, placed.frame.size.height);
+  list.emplace_back(mask(placed.frame, side / 5, image.paint.color, image.paint.opacity));
+}
+
 bool isEmpty(Rect frame) {
   return frame.size.width <= 0 || frame.size.height <= 0;
 }
@@ -53,11 +81,13 @@ void record(const PlacedElement& placed, DisplayList& list) {
   std::visit(Overload{
                  [&](const TextElement& text) {
                    if (!text.paint.isVisible() || placed.text->shown.empty()) return;
+                   if (text.paint.isRedacted) return maskText(placed, text, list);
                    list.emplace_back(drawText(placed, text));
                  },
                  [&](const ImageElement& image) {
                    const bool isInvisible = image.isTemplate() ? !image.paint.isVisible() : image.paint.opacity <= 0;
                    if (isInvisible || isEmpty(placed.frame)) return;
+                   if (image.paint.isRedacted) return maskImage(placed, image, list);
                    list.emplace_back(DrawImage{
                        .name = image.name,
                        .isSymbol = image.isSymbol,

@@ -9,11 +9,12 @@ namespace {
 using namespace swiftui;
 
 bool isSaid(const TextElement& text) {
-  return text.paint.isVisible() && !text.paint.accessibilityHidden && !text.content.empty();
+  return text.paint.isVisible() && !text.paint.accessibilityHidden && !text.paint.isRedacted && !text.content.empty();
 }
 
 bool isSaid(const ImageElement& image) {
-  return image.paint.opacity > 0 && !image.paint.accessibilityHidden && !image.options.label.empty();
+  return image.paint.opacity > 0 && !image.paint.accessibilityHidden && !image.paint.isRedacted &&
+         !image.options.label.empty();
 }
 
 /// What a leaf says by itself; null for nothing.

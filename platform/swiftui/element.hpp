@@ -19,6 +19,7 @@ struct Paint {
   double opacity = 1;
   ColorScheme colorScheme = ColorScheme::light;  ///< which variant of an asset is meant
   bool accessibilityHidden = false;
+  bool isRedacted = false;
 
   bool isVisible() const { return opacity > 0 && color.alpha > 0; }
   friend bool operator==(const Paint&, const Paint&) = default;

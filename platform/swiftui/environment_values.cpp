@@ -16,6 +16,7 @@ EnvironmentValues changed(EnvironmentValues values, const EnvironmentChange& cha
                  [&](const SetMultilineTextAlignment& set) { values.multilineTextAlignment = set.alignment; },
                  [&](const SetToggleStyle& set) { values.toggleStyle = set.style; },
                  [&](const HideFromAccessibility&) { values.accessibilityHidden = true; },
+                 [&](const Unredact&) { values.isRedacted = false; },
              },
              change);
   return values;

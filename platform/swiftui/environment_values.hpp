@@ -31,6 +31,7 @@ struct EnvironmentValues {
   TextAlignment multilineTextAlignment = TextAlignment::leading;
   std::shared_ptr<const AnyToggleStyle> toggleStyle = nullptr;
   bool accessibilityHidden = false;
+  bool isRedacted = false;  ///< texts and pictures show only where they stand
 };
 
 /// One change of the environment; the new value replaces the old one, but opacities multiply.
@@ -62,10 +63,11 @@ struct SetToggleStyle {
   std::shared_ptr<const AnyToggleStyle> style = nullptr;
 };
 struct HideFromAccessibility {};
+struct Unredact {};
 
 using EnvironmentChange =
     std::variant<SetFont, SetForegroundColor, SetColorScheme, MultiplyOpacity, SetKerning, SetLineLimit,
-                 SetMinimumScaleFactor, SetMultilineTextAlignment, SetToggleStyle, HideFromAccessibility>;
+                 SetMinimumScaleFactor, SetMultilineTextAlignment, SetToggleStyle, HideFromAccessibility, Unredact>;
 
 EnvironmentValues changed(EnvironmentValues values, const EnvironmentChange& change);
 

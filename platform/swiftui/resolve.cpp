@@ -178,7 +178,8 @@ class Resolver {
     return {.color = uikit::resolve(environment.foregroundColor, environment.colorScheme),
             .opacity = environment.opacity,
             .colorScheme = environment.colorScheme,
-            .accessibilityHidden = environment.accessibilityHidden};
+            .accessibilityHidden = environment.accessibilityHidden,
+            .isRedacted = environment.isRedacted};
   }
 };
 

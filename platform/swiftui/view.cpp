@@ -75,6 +75,9 @@ View View::minimumScaleFactor(double factor) const {
 View View::multilineTextAlignment(TextAlignment alignment) const {
   return changing(SetMultilineTextAlignment{.alignment = alignment});
 }
+View View::unredacted() const {
+  return changing(Unredact{});
+}
 View View::accessibilityHidden() const {
   return changing(HideFromAccessibility{});
 }

@@ -92,6 +92,8 @@ class View {
   View toggleStyle(Style style) const;
   /// Leaves it out of what a screen reader says.
   View accessibilityHidden() const;
+  /// Stays to be seen where the content around it is masked.
+  View unredacted() const;
 
  private:
   View changing(EnvironmentChange change) const;

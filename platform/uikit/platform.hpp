@@ -24,6 +24,7 @@ struct Platform {
   Screen screen = {};
   int systemVersion = 17;  ///< the platform's major version
   ColorScheme appearance = ColorScheme::light;
+  bool isRedacted = false;  ///< what widgets say is hidden, as before the device is first unlocked
   std::string plannerURL = "https://planner.example";  ///< begins every link; no slash at its end
   std::filesystem::path resources = {};  ///< the folder of what comes with the extension: fonts, pictures, words
   foundation::RandomSource random = foundation::systemRandomSource();

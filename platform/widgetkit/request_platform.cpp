@@ -43,6 +43,7 @@ std::expected<uikit::Platform, Failure> platformFor(const messages::World& world
       .screen = *screen,
       .systemVersion = world.systemVersion,
       .appearance = world.appearance == "dark" ? uikit::ColorScheme::dark : uikit::ColorScheme::light,
+      .isRedacted = world.isRedacted,
       .plannerURL = *plannerURL,
       .resources = resources.folder,
       .log = resources.log,

@@ -29,7 +29,8 @@ rendering::Scene sceneOf(const StaticConfiguration& widget, WidgetFamily family,
   const swiftui::EnvironmentValues environment{.platform = std::make_shared<const uikit::Platform>(platform),
                                                .widgetFamily = family,
                                                .colorScheme = platform.appearance,
-                                               .layoutDirection = direction};
+                                               .layoutDirection = direction,
+                                               .isRedacted = platform.isRedacted};
   const auto resolved = swiftui::resolve(widget.content(entry), environment);
   return rendering::compose(resolved,
                             {.size = widgetSize(family, platform.screen),

@@ -139,9 +139,10 @@ TEST_F(CommandLine, TellsTheExtensionAboutTheWorld) {
                              {"screen", "390x844"},
                              {"systemVersion", 17},
                              {"appearance", "light"},
+                             {"isRedacted", false},
                              {"plannerURL", "https://planner.example"}}));
   EXPECT_EQ(world("--timezone Asia/Tokyo --locale ja_JP --container here --screen 320x568 --system-version 15 "
-                  "--appearance dark --planner-url https://x/"),
+                  "--appearance dark --redacted --planner-url https://x/"),
             JSON({{"now", "2026-11-21T08:00:00Z"},
                   {"timeZone", "Asia/Tokyo"},
                   {"locale", "ja_JP"},
@@ -149,6 +150,7 @@ TEST_F(CommandLine, TellsTheExtensionAboutTheWorld) {
                   {"screen", "320x568"},
                   {"systemVersion", 15},
                   {"appearance", "dark"},
+                  {"isRedacted", true},
                   {"plannerURL", "https://x/"}}));
 }
 

@@ -16,6 +16,7 @@ const World world = {.now = foundation::parseMoment("2026-11-21T08:00:00.250Z").
                      .screen = "320x568",
                      .systemVersion = 16,
                      .appearance = "dark",
+                     .isRedacted = true,
                      .plannerURL = "planner://today"};
 
 TEST(Envelope, SurvivesTheWire) {
@@ -47,7 +48,8 @@ TEST(Envelope, LooksOnTheWireAsDocumented) {
   EXPECT_EQ(JSON(envelope).dump(),
             R"({"request":"askProvider","operation":"timeline","kind":"tasks","world":{)"
             R"("now":"2026-11-21T08:00:00.250Z","timeZone":"Europe/Berlin","locale":"de_DE","container":"/tmp/ü",)"
-            R"("screen":"320x568","systemVersion":16,"appearance":"dark","plannerURL":"planner://today"}})");
+            R"("screen":"320x568","systemVersion":16,"appearance":"dark","isRedacted":true,)"
+            R"("plannerURL":"planner://today"}})");
 }
 
 TEST(Envelope, RefusesWhatIsNoRequest) {
@@ -70,6 +72,7 @@ TEST(Envelope, RefusesWhatIsNoRequest) {
       {"/world/systemVersion", 5'000'000'000},
       {"/world/systemVersion", UINT64_MAX},
       {"/world/screen", JSON::object()},
+      {"/world/isRedacted", 1},
       {"/world/plannerURL", 5},
   };
   for (const auto& change : changes) {

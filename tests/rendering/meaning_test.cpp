@@ -48,6 +48,32 @@ TEST(Meaning, IsWhatAReaderMeetsInOrder) {
             "two lines\n");
 }
 
+TEST(Meaning, IsMaskedWithWhatIsShown) {
+  const View shown =
+      vstack({}, {text("Buy milk"), text("a\nb"), resizableImage("cat", {.label = "Happy"}), text("plain").unredacted(),
+                  toggle({.intent = Complete{}}, text("Call Mira")), text("clear").foregroundColor(uikit::clear)});
+  const ResolvedWidget widget = resolve(shown, {.isRedacted = true});
+  const support::FakeMeasurer measurer;
+  const PlacedElement placed = layout(widget.content, {.bounds = {.size = {200, 200}}}, measurer);
+  Meaning meaning;
+  collectMeaning(placed, meaning);
+  EXPECT_EQ(plainText(meaning), "plain\n[ ] \n");
+
+  DisplayList drawn;
+  record(placed, drawn);
+  const std::string all = jsonOf(drawn).dump();
+  for (const char* secret : {"milk", "cat", "Mira"}) EXPECT_EQ(all.find(secret), std::string::npos) << secret;
+  const PlacedElement open = layout(resolve(shown, {}).content, {.bounds = {.size = {200, 200}}}, measurer);
+  std::vector<Rect> masks;
+  for (const DrawCommand& command : drawn) {
+    if (const auto* shape = std::get_if<DrawShape>(&command)) masks.push_back(shape->frame);
+  }
+  ASSERT_EQ(masks.size(), 5U) << "a line of each text, and the picture";
+  for (const std::size_t i : {0U, 1U, 2U}) EXPECT_EQ(placed.children[i].frame, open.children[i].frame);
+  EXPECT_EQ(masks[0].size.width, open.children[0].text->lines[0].width);
+  EXPECT_EQ(masks[3], open.children[2].frame);
+}
+
 TEST(Meaning, NamesLinksAndImages) {
   const View cat = resizableImage("cat", {.label = "Happy"});
   const View shown = vstack({}, {

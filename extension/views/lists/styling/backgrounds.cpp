@@ -14,7 +14,7 @@ constexpr int containerBackgroundVersion = 17;
 }  // namespace
 
 View AddBackgroundModifier::body(const EnvironmentValues& environment) const {
-  const View paper = resizableImage("paper1new_widget").colorScheme(plannerTheme(*environment.platform));
+  const View paper = resizableImage("paper1new_widget").colorScheme(plannerTheme(*environment.platform)).unredacted();
   if (environment.platform->systemVersion >= containerBackgroundVersion) return content.containerBackground(paper);
   return content.frame({.maxWidth = infinity, .maxHeight = infinity}).background(paper);
 }
