@@ -316,7 +316,7 @@ asio::awaitable<void> HomeScreen::drawAnew(std::int64_t id, PictureKey key, JSON
 
 asio::awaitable<Result<std::string>> HomeScreen::picture(std::int64_t id, double scale, std::optional<Date> moment) {
   ShownWidget* widget = find(id);
-  if (widget == nullptr) co_return refused(Refusal::Reason::unknown, "there is no such widget");
+  if (widget == nullptr) co_return refused(Refusal::Reason::unknown, "There is no such widget.");
   JSON entry;
   Date drawnAt = moment.value_or(Date());
   std::string hash;
@@ -338,7 +338,7 @@ asio::awaitable<Result<std::string>> HomeScreen::picture(std::int64_t id, double
   const auto question = drawing(widget->placed, std::move(entry), PictureFormat::png, scale, drawnAt);
   auto bytes = co_await drawPatiently(question);
   widget = find(id);
-  if (widget == nullptr) co_return refused(Refusal::Reason::unknown, "there is no such widget");
+  if (widget == nullptr) co_return refused(Refusal::Reason::unknown, "There is no such widget.");
   if (!bytes) {
     if (!moment && !widget->lastPicture.empty()) co_return widget->lastPicture;
     co_return refused(Refusal::Reason::failed, bytes.error());
@@ -391,7 +391,7 @@ asio::awaitable<Result<JSON>> HomeScreen::at(Date moment) {
 Result<std::int64_t> HomeScreen::add(const std::string& kind, const std::string& family) {
   const auto known = std::ranges::find(catalogue_.widgets, kind, &messages::WidgetDescription::kind);
   if (known == catalogue_.widgets.end() || std::ranges::find(known->families, family) == known->families.end()) {
-    return refused(Refusal::Reason::impossible, "there is no such widget in the gallery");
+    return refused(Refusal::Reason::impossible, "There is no such widget in the gallery.");
   }
   const auto id = store_.add(kind, family, home::placeOfFamily(family));
   if (!id) return refused(reasonOf(id.error()), id.error().message);
@@ -419,7 +419,7 @@ void HomeScreen::placedWidgetsChanged() {
 
 asio::awaitable<Result<void>> HomeScreen::tap(std::int64_t id, std::string item, std::optional<Date> date) {
   ShownWidget* widget = find(id);
-  if (widget == nullptr) co_return refused(Refusal::Reason::unknown, "there is no such widget");
+  if (widget == nullptr) co_return refused(Refusal::Reason::unknown, "There is no such widget.");
   const std::string kind = widget->placed.kind;
   auto question = envelope(tapRequest(item, date), options_.clock.now());
   const auto answer = co_await ask(std::move(question), Urgency::tap);

@@ -8,13 +8,14 @@ export function useWords(next) {
 
 /**
  * The localized text of an English key; the key itself where there is none. "%@" stands for the arguments in order,
- * "%2$@" for the second one.
+ * "%2$@" for the second one. A text without arguments stays as it is: what the server says may quote anything.
  * @param {string} key
  * @param {...(string | number)} values
  */
 export function t(key, ...values) {
   let next = 0;
-  return (Object.hasOwn(words, key) ? words[key] : key).replace(/%(?:(\d+)\$)?@/g, (_, number) =>
+  const text = Object.hasOwn(words, key) ? words[key] : key;
+  return values.length === 0 ? text : text.replace(/%(?:(\d+)\$)?@/g, (_, number) =>
     String(values[number ? Number(number) - 1 : next++] ?? ''));
 }
 
