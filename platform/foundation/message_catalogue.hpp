@@ -23,6 +23,7 @@ class MessageCatalogue {
   explicit MessageCatalogue(std::string bytes);
   MessageCatalogue(const MessageCatalogue&) = delete;
   MessageCatalogue& operator=(const MessageCatalogue&) = delete;
+  ~MessageCatalogue() = default;
 
   std::optional<std::string_view> translation(std::string_view key) const;
   /// All that are translated, sorted by key.

@@ -39,12 +39,12 @@ export function createWhy({ store, api }) {
   /** @param {any} file */
   function fileCard(file) {
     return element('li', { 'data-state': file.state },
-      element('h4', {}, `${file.file} `, element('span', { class: 'state' }, t(fileStates[file.state] ?? file.state))),
+      element('h4', {}, element('span', { dir: 'ltr' }, file.file), ' ', element('span', { class: 'state' }, t(fileStates[file.state] ?? file.state))),
       facts([t('Changed'), file.modified && when(file.modified)],
-        [t('Size'), file.size ? t('%@ bytes', file.size.toLocaleString()) : null]),
+        [t('Size'), file.size ? t('%@ bytes', file.size) : null]),
       file.problems.length ? element('ul', { class: 'problems' },
-        ...file.problems.map((/** @type {string} */ problem) => element('li', {}, t(problem)))) : null,
-      file.consequence ? element('p', { class: 'consequence' }, t(file.consequence)) : null);
+        ...file.problems.map((/** @type {string} */ problem) => element('li', { dir: 'auto' }, t(problem)))) : null,
+      file.consequence ? element('p', { class: 'consequence', dir: 'auto' }, t(file.consequence)) : null);
   }
 
   async function load() {

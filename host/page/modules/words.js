@@ -1,9 +1,14 @@
 /** @type {Record<string, string>} */
 let words = {};
+let numbers = new Intl.NumberFormat('en');
 
-/** @param {Record<string, string> | undefined} next localized texts by English key */
-export function useWords(next) {
+/**
+ * @param {Record<string, string> | undefined} next localized texts by English key
+ * @param {string} language tag of the language in which numbers are written
+ */
+export function useWords(next, language) {
   words = next ?? {};
+  numbers = new Intl.NumberFormat(language);
 }
 
 /**
@@ -15,8 +20,10 @@ export function useWords(next) {
 export function t(key, ...values) {
   let next = 0;
   const text = Object.hasOwn(words, key) ? words[key] : key;
-  return values.length === 0 ? text : text.replace(/%(?:(\d+)\$)?@/g, (_, number) =>
-    String(values[number ? Number(number) - 1 : next++] ?? ''));
+  return values.length === 0 ? text : text.replace(/%(?:(\d+)\$)?@/g, (_, number) => {
+    const value = values[number ? Number(number) - 1 : next++] ?? '';
+    return typeof value === 'number' ? numbers.format(value) : value;
+  });
 }
 
 /** Translates what index.html says itself: data-words, data-words-label and data-words-placeholder hold the keys. */
