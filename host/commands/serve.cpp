@@ -8,6 +8,7 @@
 #include "foundation/user_defaults.hpp"
 #include "host/commands/command.hpp"
 #include "host/commands/world_options.hpp"
+#include "host/live/page_words.hpp"
 #include "host/server/api.hpp"
 #include "host/server/http_server.hpp"
 #include "host/server/token_file.hpp"
@@ -58,6 +59,7 @@ struct Serve {
     PageFiles page(surroundings.resources / "page");
     if (page.empty()) return failed("the page is missing: " + (surroundings.resources / "page").string());
 
+    const auto locale = foundation::Locale::named(world->locale).value_or(foundation::Locale());
     home::HomeStore store(storeFile());
     if (const auto& notice = store.notice()) say(*notice);
     const bool hasOwnTime = device.hasMoment() || speed != 1;
@@ -65,7 +67,8 @@ struct Serve {
                           {.world = *world,
                            .clock = hasOwnTime ? LiveClock(world->now, speed) : LiveClock(),
                            .followsSystemZone = !device.hasTimeZone() && variable("TZ").empty(),
-                           .extension = {.program = surroundings.extension, .timeLimit = std::chrono::seconds(10)}},
+                           .extension = {.program = surroundings.extension, .timeLimit = std::chrono::seconds(10)},
+                           .words = pageWords(surroundings.resources, locale)},
                           store);
     Access access(server->port(), *token, random);
     API api(homeScreen, access, std::move(page));

@@ -12,9 +12,8 @@ namespace {
 
 using Reason = StoreError::Reason;
 
-std::unexpected<StoreError> unknown(std::int64_t id) {
-  return std::unexpected(
-      StoreError{.reason = Reason::unknownWidget, .message = "There is no widget " + std::to_string(id) + "."});
+std::unexpected<StoreError> unknown() {
+  return std::unexpected(StoreError{.reason = Reason::unknownWidget, .message = "There is no such widget."});
 }
 
 bool holds(const std::vector<PlacedWidget>& widgets, std::int64_t id) {
@@ -57,7 +56,7 @@ std::expected<std::int64_t, StoreError> HomeStore::add(std::string_view kind, st
 
 std::expected<void, StoreError> HomeStore::remove(std::int64_t id) {
   return change<void>([&](const Rows& rows) -> std::expected<void, StoreError> {
-    if (!holds(rows, id)) return unknown(id);
+    if (!holds(rows, id)) return unknown();
     file_.database.remove(columns::id == id);
     const Rows rest = storedWidgets(file_.database);
     write(rest, arranged(rest));
@@ -67,7 +66,7 @@ std::expected<void, StoreError> HomeStore::remove(std::int64_t id) {
 
 std::expected<void, StoreError> HomeStore::move(std::int64_t id, int position) {
   return change<void>([&](const Rows& rows) -> std::expected<void, StoreError> {
-    if (!holds(rows, id)) return unknown(id);
+    if (!holds(rows, id)) return unknown();
     write(rows, moved(rows, id, position));
     return {};
   });

@@ -28,6 +28,7 @@ class HomeScreen {
     LiveClock clock = {};
     bool followsSystemZone = false;  ///< world's zone is the system's, which may change
     ExtensionProcess::Options extension = {};
+    foundation::JSON words = foundation::JSON::object();  ///< of the page
   };
 
   HomeScreen(const boost::asio::any_io_executor& executor, Options options, home::HomeStore& store);

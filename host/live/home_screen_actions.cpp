@@ -39,7 +39,7 @@ std::unexpected<Refusal> refusedBy(const home::StoreError& error) {
 Result<std::int64_t> HomeScreen::add(const std::string& kind, const std::string& family) {
   const auto* known = description(kind);
   if (known == nullptr || std::ranges::find(known->families, family) == known->families.end()) {
-    return refused(Refusal::Reason::impossible, "there is no such widget in the gallery");
+    return refused(Refusal::Reason::impossible, "There is no such widget in the gallery.");
   }
   const auto id = store_.add(kind, family, home::placeOfFamily(family));
   if (!id) return refusedBy(id.error());
@@ -67,7 +67,7 @@ void HomeScreen::placedWidgetsChanged() {
 
 asio::awaitable<Result<void>> HomeScreen::tap(std::int64_t id, std::string item, std::optional<Date> date) {
   ShownWidget* widget = find(id);
-  if (widget == nullptr) co_return refused(Refusal::Reason::unknown, "there is no such widget");
+  if (widget == nullptr) co_return refused(Refusal::Reason::unknown, "There is no such widget.");
   const std::string kind = widget->placed.kind;
   auto question = envelope(tapRequest(item, date), options_.clock.now());
   const auto answer = co_await ask(std::move(question), ExtensionWorker::Urgency::tap);

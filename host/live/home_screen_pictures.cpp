@@ -112,7 +112,7 @@ asio::awaitable<void> HomeScreen::drawAnew(std::int64_t id, PictureKey key, JSON
 
 asio::awaitable<Result<std::string>> HomeScreen::picture(std::int64_t id, double scale, std::optional<Date> moment) {
   ShownWidget* widget = find(id);
-  if (widget == nullptr) co_return refused(Refusal::Reason::unknown, "there is no such widget");
+  if (widget == nullptr) co_return refused(Refusal::Reason::unknown, "There is no such widget.");
   JSON entry;
   Date drawnAt = moment.value_or(Date());
   std::string hash;
@@ -134,7 +134,7 @@ asio::awaitable<Result<std::string>> HomeScreen::picture(std::int64_t id, double
   const auto question = drawing(widget->placed, std::move(entry), PictureFormat::png, scale, drawnAt);
   auto bytes = co_await drawPatiently(question);
   widget = find(id);
-  if (widget == nullptr) co_return refused(Refusal::Reason::unknown, "there is no such widget");
+  if (widget == nullptr) co_return refused(Refusal::Reason::unknown, "There is no such widget.");
   if (!bytes) {
     if (!moment && !widget->lastPicture.empty()) co_return widget->lastPicture;
     co_return refused(Refusal::Reason::failed, bytes.error());

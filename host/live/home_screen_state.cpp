@@ -121,7 +121,7 @@ JSON HomeScreen::state() const {
           {"screen", screenJSON(options_.world.screen)},
           {"theme", theme},
           {"plannerURL", options_.world.plannerURL},
-          {"words", JSON::object()},
+          {"words", options_.words},
           {"catalogue", catalogueJSON(catalogue_)},
           {"widgets", std::move(widgets)},
           {"changes", std::move(changes)}};

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "foundation/catalogue_names.hpp"
 #include "support/temporary_folder.hpp"
 
 namespace foundation {
@@ -22,14 +23,53 @@ TEST(Words, ComeFromTheCatalogueThatFitsBest) {
       {"pt", "%lld tasks", "%lld tarefas"},
       {"pt_BR@calendar=buddhist", "Bus", "Ônibus"},
       {"pt_BR", "Untranslated", "Untranslated"},
+      {"pt_BR", "Empty", "Empty"},
+      {"pt_BR", "One book", "Um livro"},
       {"pt_BR", "", ""},
       {"de_DE", "Bus", "Bus"},
+      {"zh_Hans_CN", "Bus", "公交车"},
+      {"zh_HK", "Bus", "Bus"},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(Words::load(compiled, locale(row.locale)).localized(row.key), row.wanted) << row.locale;
   }
   EXPECT_EQ(Words().localized("Bus"), "Bus");
   EXPECT_EQ(Words::load("/nonexistent", locale("pt_BR")).localized("Bus"), "Bus");
+  EXPECT_EQ(Words::load(compiled, locale("pt"), "another-domain").localized("Bus"), "Bus");
+}
+
+TEST(Words, AreListedByKey) {
+  const Words words = Words::load(compiled, locale("pt_BR"));
+  std::vector<std::string> listed;
+  for (const auto& [key, text] : words.messages()) listed.push_back(std::string(key) + "=" + std::string(text));
+  EXPECT_EQ(listed,
+            (std::vector<std::string>{"%lld tasks=%lld tarefas", "Bus=Ônibus", "One book=Um livro", "Today=Hoje"}));
+  EXPECT_TRUE(Words().messages().empty());
+}
+
+TEST(CatalogueNames, AreOfTheLocalesScript) {
+  using Names = std::vector<std::string>;
+  const struct {
+    const char* locale;
+    Names wanted;
+  } rows[] = {
+      {"de_AT", {"de_AT", "de", "de_DE"}},
+      {"pt", {"pt", "pt_BR"}},
+      {"pt_PT", {"pt_PT", "pt", "pt_BR"}},
+      {"zh", {"zh", "zh_CN"}},
+      {"zh_CN", {"zh_CN", "zh"}},
+      {"zh_Hans", {"zh", "zh_CN"}},
+      {"zh_Hans_CN", {"zh_CN", "zh"}},
+      {"zh_SG", {"zh_SG", "zh", "zh_CN"}},
+      {"zh_Hans_TW", {"zh", "zh_CN"}},
+      {"zh_TW", {"zh_TW"}},
+      {"zh_Hant", {"zh_TW"}},
+      {"zh_HK", {"zh_HK", "zh_TW"}},
+      {"iw_IL", {"he_IL", "he"}},
+      {"sr_Latn_RS", {}},
+      {"es_419", {"es_419", "es", "es_ES"}},
+  };
+  for (const auto& row : rows) EXPECT_EQ(catalogueNames(locale(row.locale)), row.wanted) << row.locale;
 }
 
 TEST(Words, OfADamagedCatalogueAreTheKeys) {

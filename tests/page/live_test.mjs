@@ -82,6 +82,21 @@ test('Texts of the host replace the page’s own', () => onHome(used, {
   assert.equal(await page.locator('#lock-date').textContent(), 'Samstag, 21. November');
 }));
 
+test('In a language from right to left the page is mirrored, and its own texts are of that language', () => onHome(used, {
+  mock: { direction: 'rtl', locale: 'ar_EG', words: { Edit: 'تعديل', 'Add widget': 'إضافة أداة', Home: 'الرئيسية', 'Lock screen': 'شاشة القفل',
+    'Move %@': 'نقل %@', '%1$@ moved to position %2$@ of %3$@': '%1$@: %2$@/%3$@' } },
+}, async (page) => {
+  const html = page.locator('html');
+  await eventually(async () => [await html.getAttribute('dir'), await html.getAttribute('lang')], ['rtl', 'ar-EG']);
+  const x = async (id) => (await page.locator(id).boundingBox()).x;
+  assert.ok(await x('#edit') > await x('#add') && await x('#tab-home') > await x('#tab-lock') && await x('.time') > await x('.phone'));
+  assert.equal(await page.locator('#add').textContent(), 'إضافة أداة');
+  await page.getByRole('tab', { name: 'شاشة القفل' }).waitFor();
+  await page.getByRole('button', { name: 'تعديل' }).click();
+  await page.getByRole('button', { name: 'نقل Tasks' }).press('ArrowLeft');
+  assert.equal(await page.locator('#said').textContent(), 'Tasks: ٢/٣');
+}));
+
 test('The time slider shows what will be seen, and nothing can be tapped meanwhile', () => onHome(used, {}, async (page, mock) => {
   const shown = async () => (await page.locator('#chosen').textContent()).replace(/\b00:/, '0:');
   const boxes = () => page.locator('[data-id="1"] input').evaluateAll((all) => all.map((one) => [one.ariaLabel, one.disabled]));

@@ -70,3 +70,8 @@ test('A container that is replaced is shown, one that is gone leaves empty lists
   assert.equal(existsSync(join(host.container, 'tasks.json')), false);
   await eventually(async () => (await labels(page)).length, 2); // those of every day
 }));
+
+test('The page speaks the host’s language', { skip }, () => onProgram(['--locale', 'he_IL'], async (page) => {
+  await eventually(() => page.locator('html').evaluate(({ dir, lang }) => [dir, lang]), ['rtl', 'he-IL']);
+  for (const text of ['#add', '#tab-lock', '#why-title']) assert.match(await page.locator(text).textContent(), /^[^A-Za-z]*[א-ת][^A-Za-z]*$/, text);
+}));

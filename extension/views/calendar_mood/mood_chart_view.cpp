@@ -59,8 +59,8 @@ View rows(const MoodEntry& entry, const ChartLook& look) {
   return vstack({.spacing = look.spacing}, std::move(stacked));
 }
 
-View ofFamily(const MoodEntry& entry, WidgetFamily family) {
-  switch (family) {
+View ofFamily(const MoodEntry& entry, const EnvironmentValues& environment) {
+  switch (environment.widgetFamily) {
     case WidgetFamily::systemSmall:
       return AddBackgroundModifier{.content = MoodChartViewActS{.entry = entry}};
     case WidgetFamily::systemMedium:
@@ -68,14 +68,14 @@ View ofFamily(const MoodEntry& entry, WidgetFamily family) {
     case WidgetFamily::systemLarge:
       return AddBackgroundModifier{.content = MoodChartViewAct{.paddingt = 16, .entry = entry}};
     default:
-      return text("Not Supported");
+      return text(environment.platform->words.localized("Not Supported"));
   }
 }
 
 }  // namespace
 
 View MoodChartView::body(const EnvironmentValues& environment) const {
-  return ofFamily(entry, environment.widgetFamily).widgetURL(moodChartPage(*environment.platform));
+  return ofFamily(entry, environment).widgetURL(moodChartPage(*environment.platform));
 }
 
 View MoodChartViewAct::body(const EnvironmentValues&) const {

@@ -45,7 +45,7 @@ View Mirune_WidgetsEntryViewNew::body(const EnvironmentValues& environment) cons
     case WidgetFamily::systemLarge:
       return AddBackgroundModifier{.content = MoodChartViewAct{.paddingt = margin, .entry = entry}};
     default:
-      return text("Not Supported");
+      return text(environment.platform->words.localized("Not Supported"));
   }
 }
 

@@ -23,7 +23,7 @@ store.subscribe(() => {
   const key = JSON.stringify([state?.words, state?.locale]);
   if (!state || key === translated) return;
   translated = key;
-  useWords(state.words);
+  useWords(state.words, languageTag(state.locale));
   document.documentElement.lang = Object.keys(state.words).length ? languageTag(state.locale) : 'en';
   byId('screens').lang = languageTag(state.locale);
   translatePage();

@@ -33,18 +33,18 @@ export function createWhy({ store, api }) {
         [t('Next change'), when(one.nextChange)],
         [t('Asks again'), next ? t('%1$@, because: %2$@', when(next.at), t(next.reason)) : t('none')],
         [t('Asked last'), when(one.lastRequest)]),
-      failure ? element('p', { class: 'trouble' }, t('Failed %1$@: %2$@', when(failure.at), failure.message)) : null);
+      failure ? element('p', { class: 'trouble' }, t('Failed %1$@: %2$@', when(failure.at), t(failure.message))) : null);
   }
 
   /** @param {any} file */
   function fileCard(file) {
     return element('li', { 'data-state': file.state },
-      element('h4', {}, `${file.file} `, element('span', { class: 'state' }, t(fileStates[file.state] ?? file.state))),
+      element('h4', {}, element('span', { dir: 'ltr' }, file.file), ' ', element('span', { class: 'state' }, t(fileStates[file.state] ?? file.state))),
       facts([t('Changed'), file.modified && when(file.modified)],
-        [t('Size'), file.size ? t('%@ bytes', file.size.toLocaleString()) : null]),
+        [t('Size'), file.size ? t('%@ bytes', file.size) : null]),
       file.problems.length ? element('ul', { class: 'problems' },
-        ...file.problems.map((/** @type {string} */ problem) => element('li', {}, problem))) : null,
-      file.consequence ? element('p', { class: 'consequence' }, file.consequence) : null);
+        ...file.problems.map((/** @type {string} */ problem) => element('li', { dir: 'auto' }, t(problem)))) : null,
+      file.consequence ? element('p', { class: 'consequence', dir: 'auto' }, t(file.consequence)) : null);
   }
 
   async function load() {

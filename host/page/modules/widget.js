@@ -36,7 +36,7 @@ export function createWidget(id, context) {
     const { state } = store;
     age.hidden = !widget.failure || !state;
     if (!widget.failure || !state) return;
-    const since = t('Since %1$@: %2$@', shortText(state, widget.failure.since), widget.failure.message);
+    const since = t('Since %1$@: %2$@', shortText(state, widget.failure.since), t(widget.failure.message));
     const from = widget.drawnAt ? t('from %@', timeOrDayText(state, widget.drawnAt, clock.now())) : t('not drawn yet');
     age.title = since;
     age.replaceChildren(from, element('span', { class: 'unseen' }, `. ${since}`));
