@@ -19,22 +19,22 @@ constexpr auto configuration = R"(<?xml version="1.0"?>
   </alias>
   <match target="pattern">
     <test name="lang" compare="contains"><string>ja</string></test>
-    <edit name="family" mode="append_last"><string>Noto Sans CJK JP</string></edit>
+    <edit name="family" mode="append_last" binding="strong"><string>Noto Sans CJK JP</string></edit>
   </match>
   <match target="pattern">
     <test name="lang" compare="contains"><string>ko</string></test>
-    <edit name="family" mode="append_last"><string>Noto Sans CJK KR</string></edit>
+    <edit name="family" mode="append_last" binding="strong"><string>Noto Sans CJK KR</string></edit>
   </match>
   <match target="pattern">
     <test name="lang" compare="contains"><string>zh-tw</string></test>
-    <edit name="family" mode="append_last"><string>Noto Sans CJK TC</string></edit>
+    <edit name="family" mode="append_last" binding="strong"><string>Noto Sans CJK TC</string></edit>
   </match>
   <match target="pattern">
     <test name="lang" compare="contains"><string>zh-hk</string></test>
-    <edit name="family" mode="append_last"><string>Noto Sans CJK HK</string></edit>
+    <edit name="family" mode="append_last" binding="strong"><string>Noto Sans CJK HK</string></edit>
   </match>
   <match target="pattern">
-    <edit name="family" mode="append_last">
+    <edit name="family" mode="append_last" binding="strong">
       <string>Noto Sans CJK SC</string>
       <string>Noto Sans Arabic UI</string>
       <string>Noto Sans Hebrew</string>

@@ -13,9 +13,6 @@ namespace {
 using swiftui::Font;
 using swiftui::FontDesign;
 
-/// Stands in for the platform's system font: the closest free one in width, weight by weight.
-constexpr auto systemFamily = "Inter";
-
 // The names of the two lightest weights are swapped between the platform and Pango; the numbers agree.
 constexpr std::array<int, 9> pangoWeights{100, 200, 300, 400, 500, 600, 700, 800, 900};
 
@@ -53,15 +50,14 @@ bool joinsLetters(gunichar character) {
 using AttributeList =
     std::unique_ptr<PangoAttrList, decltype([](PangoAttrList* list) { pango_attr_list_unref(list); })>;
 
-/// The spacing of all letters but those that it would tear apart.
-AttributeList letterSpacing(const std::string& content, double spacing) {
-  AttributeList attributes(pango_attr_list_new());
+/// Spaces all letters but those that it would tear apart.
+void spaceLetters(const std::string& content, double spacing, PangoAttrList* attributes) {
   const auto space = [&](const char* from, const char* to) {
     if (from == to) return;
     PangoAttribute* attribute = pango_attr_letter_spacing_new(pangoUnits(spacing));
     attribute->start_index = static_cast<guint>(from - content.c_str());
     attribute->end_index = static_cast<guint>(to - content.c_str());
-    pango_attr_list_insert(attributes.get(), attribute);
+    pango_attr_list_insert(attributes, attribute);
   };
   const char* const end = content.c_str() + content.size();
   const char* start = content.c_str();
@@ -71,7 +67,25 @@ AttributeList letterSpacing(const std::string& content, double spacing) {
     start = g_utf8_next_char(at);
   }
   space(start, end);
-  return attributes;
+}
+
+/// Forbids to break within the words that have Korean letters.
+void keepKoreanWords(const std::string& content, PangoAttrList* attributes) {
+  const char* const end = content.c_str() + content.size();
+  for (const char* at = content.c_str(); at < end;) {
+    const char* const start = at;
+    bool isKorean = false;
+    for (; at < end && g_unichar_isspace(g_utf8_get_char(at)) == FALSE; at = g_utf8_next_char(at)) {
+      isKorean = isKorean || g_unichar_get_script(g_utf8_get_char(at)) == G_UNICODE_SCRIPT_HANGUL;
+    }
+    if (isKorean) {
+      PangoAttribute* attribute = pango_attr_allow_breaks_new(FALSE);
+      attribute->start_index = static_cast<guint>(start - content.c_str());
+      attribute->end_index = static_cast<guint>(at - content.c_str());
+      pango_attr_list_insert(attributes, attribute);
+    }
+    if (at < end) at = g_utf8_next_char(at);
+  }
 }
 
 /// As fontconfig's tables of languages have it: they tell the ways to write Chinese apart by territory.
@@ -106,7 +120,8 @@ GlyphText::GlyphText()
   pango_cairo_context_set_font_options(context_.get(), options.get());
 }
 
-GObjectHandle<PangoLayout> GlyphText::paragraph(const std::string& content, const GlyphStyle& style) const {
+GObjectHandle<PangoLayout> GlyphText::paragraph(const std::string& content, const GlyphStyle& style,
+                                                bool keepsKoreanWords) const {
   pango_context_set_base_dir(context_.get(), style.direction == swiftui::LayoutDirection::rightToLeft
                                                  ? PANGO_DIRECTION_WEAK_RTL
                                                  : PANGO_DIRECTION_WEAK_LTR);
@@ -114,9 +129,10 @@ GObjectHandle<PangoLayout> GlyphText::paragraph(const std::string& content, cons
   GObjectHandle<PangoLayout> layout(pango_layout_new(context_.get()));
   pango_layout_set_text(layout.get(), content.c_str(), static_cast<int>(content.size()));
   pango_layout_set_font_description(layout.get(), description(style.font).get());
-  if (style.spacing != 0) {
-    pango_layout_set_attributes(layout.get(), letterSpacing(content, style.spacing).get());
-  }
+  const AttributeList attributes(pango_attr_list_new());
+  if (style.spacing != 0) spaceLetters(content, style.spacing, attributes.get());
+  if (keepsKoreanWords) keepKoreanWords(content, attributes.get());
+  pango_layout_set_attributes(layout.get(), attributes.get());
   return layout;
 }
 
@@ -138,7 +154,7 @@ swiftui::FontMetrics GlyphText::customFontMetrics(const Font& font) const {
 FontDescription GlyphText::description(const Font& font) const {
   FontDescription description(pango_font_description_new());
   int weight = pangoWeight(font);
-  std::string family = systemFamily;
+  std::string family(systemFamily);
   if (!font.name.empty()) {
     const FontFace& face = customFace(font);
     if (!face.family.empty()) {

@@ -14,6 +14,9 @@
 
 namespace rendering {
 
+/// Stands in for the platform's system font: the closest free one in width, weight by weight.
+inline constexpr std::string_view systemFamily = "Inter";
+
 /// A font as the shaper is asked for it.
 struct GlyphStyle {
   swiftui::Font font = {};  ///< at the size that it is drawn with
@@ -36,8 +39,10 @@ class GlyphText {
  public:
   GlyphText();
 
-  /// A paragraph of that text; without a width until it is given one.
-  GObjectHandle<PangoLayout> paragraph(const std::string& content, const GlyphStyle& style) const;
+  /// A paragraph of that text; without a width until it is given one. Korean words are kept whole as others are, unless
+  /// told otherwise.
+  GObjectHandle<PangoLayout> paragraph(const std::string& content, const GlyphStyle& style,
+                                       bool keepsKoreanWords = true) const;
 
   /// A custom font's own measures at that size.
   swiftui::FontMetrics customFontMetrics(const swiftui::Font& font) const;

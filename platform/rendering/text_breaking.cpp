@@ -82,10 +82,17 @@ void dropBlanksAtEnd(std::string& content) {
 
 BrokenText breakText(const GlyphText& glyphs, const std::string& content, const GlyphStyle& style,
                      std::optional<double> width) {
-  const auto paragraph = glyphs.paragraph(content, style);
+  auto paragraph = glyphs.paragraph(content, style);
   setWidth(paragraph.get(), width, style.spacingBehind(content));
   BrokenText broken = linesOf(glyphs, paragraph.get(), content, style);
   if (!width || std::isinf(*width)) return broken;
+  if (broken.width > *width + std::abs(style.spacing)) {
+    // A Korean word has no room on a line of its own.
+    paragraph = glyphs.paragraph(content, style, false);
+    setWidth(paragraph.get(), width, style.spacingBehind(content));
+    broken = linesOf(glyphs, paragraph.get(), content, style);
+    broken.breaksWord = true;
+  }
   // Where it breaks a line the shaper counts the spacing around the blank in another way than in the line by itself.
   const double mostMiscounted = 2 * std::abs(style.spacing);
   double narrowed = *width;

@@ -6,6 +6,7 @@
 
 #include "rendering/drawable_text.hpp"
 #include "rendering/glyph_text.hpp"
+#include "rendering/rounded_text.hpp"
 #include "rendering/text_breaking.hpp"
 #include "rendering/typography.hpp"
 
@@ -126,31 +127,7 @@ void TextEngine::drawLine(cairo_t* cairo, const std::string& line, const TextSty
     pango_cairo_show_layout_line(cairo, glyphLine);
     return;
   }
-  // Filled and outlined into one stencil first: where the two overlap a translucent colour must not be seen twice.
-  cairo_save(cairo);
-  pango_cairo_layout_line_path(cairo, glyphLine);
-  const double pen = roundedPen * style.font.size * scale;
-  double left = 0;
-  double top = 0;
-  double right = 0;
-  double bottom = 0;
-  cairo_fill_extents(cairo, &left, &top, &right, &bottom);
-  cairo_path_t* outlines = cairo_copy_path(cairo);
-  cairo_new_path(cairo);
-  cairo_rectangle(cairo, left - pen, top - pen, right - left + 2 * pen, bottom - top + 2 * pen);
-  cairo_clip(cairo);
-  cairo_push_group_with_content(cairo, CAIRO_CONTENT_ALPHA);
-  cairo_append_path(cairo, outlines);
-  cairo_path_destroy(outlines);
-  cairo_set_source_rgb(cairo, 0, 0, 0);
-  cairo_set_line_join(cairo, CAIRO_LINE_JOIN_ROUND);
-  cairo_set_line_width(cairo, pen);
-  cairo_fill_preserve(cairo);
-  cairo_stroke(cairo);
-  cairo_pattern_t* stencil = cairo_pop_group(cairo);
-  cairo_mask(cairo, stencil);
-  cairo_pattern_destroy(stencil);
-  cairo_restore(cairo);
+  drawRounded(cairo, glyphLine, roundedPen * style.font.size * scale);
 }
 
 }  // namespace rendering

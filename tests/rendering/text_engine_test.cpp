@@ -145,6 +145,10 @@ TEST(TextEngine, BreaksAtWordsAndInsideThemOnlyWhereOneIsTooLong) {
   }
   const TextLayout broken = engine().layoutText("Donaudampfschifffahrt", style, {.width = 50});
   EXPECT_GT(broken.lines.size(), 2U);
+  // Korean is broken at its blanks, Japanese anywhere.
+  EXPECT_EQ(linesOf(engine().layoutText("오늘 기분이 어때요", style, {.width = 62})), (Lines{"오늘 기분이", "어때요"}));
+  EXPECT_GT(engine().layoutText("오늘기분이어때요", style, {.width = 62}).lines.size(), 1U);
+  EXPECT_EQ(linesOf(engine().layoutText("今日の気分は", style, {.width = 62})), (Lines{"今日の気分", "は"}));
   // The blank at which a line was broken takes no room, also where it would stand to the left.
   const TextLayout hebrew = engine().layoutText("שלום עולם", style, {.width = 40});
   EXPECT_EQ(linesOf(hebrew), (Lines{"שלום", "עולם"}));
