@@ -7,6 +7,8 @@
 #include "host/commands/picture_file.hpp"
 #include "host/commands/question.hpp"
 #include "host/commands/world_options.hpp"
+#include "host/states/scratch_folder.hpp"
+#include "host/states/state_container.hpp"
 
 namespace host {
 
@@ -37,27 +39,56 @@ class ProgressLine {
 };
 
 struct Sheet {
-  explicit Sheet(const Surroundings& surroundings) : extension(surroundings.extension), device(surroundings) {}
+  explicit Sheet(const Surroundings& surroundings)
+      : extension(surroundings.extension), resources(surroundings.resources), device(surroundings) {}
 
   Outcome run() const {
-    const auto format = pictureFormat(file, endings);
-    if (!format) return std::unexpected(format.error());
     const auto pixels = pictureScale(scale);
     if (!pixels) return std::unexpected(pixels.error());
     const auto world = device.world();
     if (!world) return std::unexpected(world.error());
     ExtensionProcess process({.program = extension});
+    if (drawsStates) return drawStates(process, *world, *pixels);
+    const auto format = pictureFormat(file, endings);
+    if (!format) return std::unexpected(format.error());
+    return draw(process, *world, {.format = *format, .scale = *pixels}, file);
+  }
+
+  Outcome draw(ExtensionProcess& process, const messages::World& world, const messages::DrawSheet& sheet,
+               const std::string& target) const {
     ProgressLine line;
-    const auto picture = question<messages::Picture>(
-        process, {.world = *world, .request = messages::DrawSheet{.format = *format, .scale = *pixels}},
-        [&](const messages::Progress& progress) { line.show(progress); });
+    const auto picture = question<messages::Picture>(process, {.world = world, .request = sheet},
+                                                     [&](const messages::Progress& progress) { line.show(progress); });
     if (!picture) return std::unexpected(picture.error());
-    return savePicture(file, *picture);
+    return savePicture(target, *picture);
+  }
+
+  Outcome drawStates(ExtensionProcess& process, const messages::World& given, double pixels) const {
+    const std::filesystem::path folder = file;
+    const auto states = readStates(resources / "states" / "states.json");
+    if (!states) return failed(states.error());
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
+    if (error) return failed(folder.string() + ": " + error.message());
+    std::string drawn;
+    for (const WidgetState& state : *states) {
+      const ScratchFolder scratch;
+      const messages::World world = state.world(given, scratch.path() / "container");
+      const auto written = writeStateContainer(state, world, resources / "demo", scratch.path() / "templates");
+      if (!written) return failed(written.error());
+      const std::string target = (folder / (state.name + ".png")).string();
+      const auto saved = draw(process, world, {.format = PictureFormat::png, .scale = pixels}, target);
+      if (!saved) return std::unexpected(saved.error());
+      drawn += target + "\n";
+    }
+    return drawn;
   }
 
   std::filesystem::path extension;
+  std::filesystem::path resources;
   WorldOptions device;
   std::string file;
+  bool drawsStates = false;
   double scale = 2;
 };
 
@@ -68,10 +99,13 @@ Command sheetCommand() {
           .summary = "Draw every kind in every family that it offers, on one sheet",
           .declare = [](CLI::App& app, const Surroundings& surroundings) -> std::function<Outcome()> {
             auto sheet = std::make_shared<Sheet>(surroundings);
-            app.add_option("-o,--output", sheet->file, "The file; its ending chooses the form: .png, .svg, .pdf")
+            app.add_option("-o,--output", sheet->file,
+                           "The file; its ending chooses the form: .png, .svg, .pdf (with --states a folder)")
                 ->required()
                 ->option_text("FILE");
             app.add_option("--scale", sheet->scale, "Pixels per point, 0.1 to 10 (else 2)")->type_name("N");
+            app.add_flag("--states", sheet->drawsStates,
+                         "Draw a sheet for each state: an empty day, a full one, long words, other languages …");
             sheet->device.addTo(app);
             return [sheet] { return sheet->run(); };
           }};
