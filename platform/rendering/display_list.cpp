@@ -66,9 +66,11 @@ void maskText(const PlacedElement& placed, const TextElement& text, DisplayList&
   }
 }
 
+/// Whatever its colours: they would tell what it shows.
 void maskImage(const PlacedElement& placed, const ImageElement& image, DisplayList& list) {
   const double side = std::min(placed.frame.size.width, placed.frame.size.height);
-  list.emplace_back(mask(placed.frame, side / 5, image.paint.color, image.paint.opacity));
+  const uikit::RGBA label = uikit::resolve(uikit::SystemColor::label, image.paint.colorScheme);
+  list.emplace_back(mask(placed.frame, side / 3, label, image.paint.opacity * 0.6));
 }
 
 bool isEmpty(Rect frame) {

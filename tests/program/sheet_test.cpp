@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <map>
+#include <sstream>
+
 #include "program.hpp"
 
 namespace program {
@@ -21,6 +24,29 @@ TEST(SheetCommand, DrawsEveryFormTheSameEachTime) {
       EXPECT_TRUE(first == drawn("second")) << command << ending << ": other bytes the second time";
     }
   }
+}
+
+TEST(SheetCommand, DrawsASheetForEachState) {
+  const support::TemporaryFolder folder;
+  std::filesystem::create_directory(folder / "scratch");
+  ::setenv("TMPDIR", (folder / "scratch").c_str(), 1);
+  const auto result = run(folder.path(), "sheet --states -o sheets --scale 0.5 --now 2026-11-21T08:00:00Z");
+  ASSERT_EQ(result.exitCode, 0);
+  std::map<std::string, std::string> states;
+  std::istringstream lines(result.output);
+  for (std::string file; std::getline(lines, file);) {
+    const std::string bytes = support::readBytes(folder / file);
+    EXPECT_EQ(bytes.substr(1, 3), "PNG") << file;
+    const auto [same, isNew] = states.emplace(bytes, file);
+    const bool isMeant = file.ends_with("/no-file.png") && same->second.ends_with("/empty.png");
+    EXPECT_TRUE(isNew || isMeant) << file << " looks like " << same->second;
+  }
+  EXPECT_GE(states.size(), 20U);
+  ::unsetenv("TMPDIR");
+  EXPECT_TRUE(std::filesystem::is_empty(folder / "scratch"));
+
+  support::writeBytes(folder / "file", "");
+  EXPECT_EQ(run(folder.path(), "sheet --states -o file").exitCode, 1);
 }
 
 TEST(SheetCommand, IsAPictureOnly) {

@@ -1,10 +1,8 @@
 #pragma once
 
 #include "calendar_mood/accent_color.hpp"
-#include "catalogue/widgets_bundle.hpp"
-#include "drawing.hpp"
 #include "timelines/entry_coding.hpp"
-#include "widgetkit/widget_drawing.hpp"
+#include "widget_scene.hpp"
 
 namespace mirune {
 
@@ -27,11 +25,7 @@ inline MoodEntry moodEntryOf(int days, const MiruneDailyMood& mood, std::int64_t
 /// "mood" or "moods" as the host has it drawn.
 inline rendering::Scene moodScene(const std::string& kind, const MoodEntry& entry, swiftui::WidgetFamily family,
                                   const uikit::Platform& platform = platformAt({}, "")) {
-  for (const auto& widget : Mirune_WidgetsColl(MIRUNE_SHARE).body(platform)) {
-    if (widget.shortName() != kind) continue;
-    return widgetkit::sceneOf(widget, family, foundation::JSON(entry), platform, 2, realRenderer());
-  }
-  throw std::runtime_error("no widget " + kind);
+  return widgetScene(kind, foundation::JSON(entry), family, platform);
 }
 
 /// The four screens that differ the most, and the narrowest of them.

@@ -2,11 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "catalogue/widgets_bundle.hpp"
-#include "drawing.hpp"
 #include "lists/checklist_toggle_style.hpp"
 #include "timelines/entry_coding.hpp"
-#include "widgetkit/widget_drawing.hpp"
+#include "widget_scene.hpp"
 #include "widgetkit/widget_size.hpp"
 
 namespace mirune {
@@ -40,11 +38,7 @@ rendering::Scene sceneOfList(const TaskEntry& entry, bool shouldAddHeader = true
 
 /// The tasks widget as the host has it drawn.
 rendering::Scene sceneOfWidget(const TaskEntry& entry, WidgetFamily family, const uikit::Platform& platform) {
-  for (const auto& widget : Mirune_WidgetsColl(MIRUNE_SHARE).body(platform)) {
-    if (widget.shortName() != "tasks") continue;
-    return widgetkit::sceneOf(widget, family, foundation::JSON(entry), platform, 2, realRenderer());
-  }
-  throw std::runtime_error("no tasks widget");
+  return widgetScene("tasks", foundation::JSON(entry), family, platform);
 }
 
 TEST(TaskWidgetView, ShowsThreeRowsAndHowManyMoreThereAre) {
