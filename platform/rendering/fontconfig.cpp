@@ -6,11 +6,7 @@ namespace {
 // Letters that a font lacks are looked for in the families behind it, in their order; Chinese, Japanese and Korean draw
 // the same characters in different ways, so the reader's language comes first. Emoji are pictures of one size: the last
 // rule has them drawn at the size that is asked for.
-constexpr auto configuration = R"(<?xml version="1.0"?>
-<fontconfig>
-  <dir>/usr/share/fonts</dir>
-  <dir>/usr/local/share/fonts</dir>
-  <dir prefix="xdg">fonts</dir>
+constexpr const char* configuration = R"(
   <cachedir>/var/cache/fontconfig</cachedir>
   <cachedir prefix="xdg">fontconfig</cachedir>
   <alias binding="same">
@@ -58,31 +54,57 @@ constexpr auto configuration = R"(<?xml version="1.0"?>
 </fontconfig>
 )";
 
-struct DestroyPattern {
-  void operator()(FcPattern* pattern) const { FcPatternDestroy(pattern); }
-};
+constexpr const char* systemFontFolder = "  <dir>/usr/share/fonts/opentype/inter</dir>";
+constexpr const char* allFolders = R"(
+  <dir>/usr/share/fonts</dir>
+  <dir>/usr/local/share/fonts</dir>
+  <dir prefix="xdg">fonts</dir>)";
+
+std::string textOf(const FcPattern* pattern, const char* property) {
+  FcChar8* text = nullptr;
+  if (FcPatternGetString(pattern, property, 0, &text) != FcResultMatch) return {};
+  return reinterpret_cast<const char*>(text);
+}
+
+FontFace faceOf(const FcPattern* pattern) {
+  FontFace face{.family = textOf(pattern, FC_FAMILY)};
+  FcPatternGetInteger(pattern, FC_WEIGHT, 0, &face.weight);
+  return face;
+}
 
 }  // namespace
 
-FontconfigHandle makeFontconfig() {
+FontconfigHandle makeFontconfig(FontFolders folders) {
+  const std::string text = std::string(R"(<?xml version="1.0"?><fontconfig>)") +
+                           (folders == FontFolders::all ? allFolders : systemFontFolder) + configuration;
   FontconfigHandle config(FcConfigCreate());
-  FcConfigParseAndLoadFromMemory(config.get(), reinterpret_cast<const FcChar8*>(configuration), FcTrue);
+  FcConfigParseAndLoadFromMemory(config.get(), reinterpret_cast<const FcChar8*>(text.c_str()), FcTrue);
   FcConfigBuildFonts(config.get());
   return config;
 }
 
-FontFace readFontFace(const std::filesystem::path& file) {
-  int faces = 0;
-  const std::unique_ptr<FcPattern, DestroyPattern> pattern(
-      FcFreeTypeQuery(reinterpret_cast<const FcChar8*>(file.c_str()), 0, nullptr, &faces));
-  FontFace face;
-  if (!pattern) return face;
-  FcChar8* family = nullptr;
-  if (FcPatternGetString(pattern.get(), FC_FAMILY, 0, &family) == FcResultMatch) {
-    face.family = reinterpret_cast<const char*>(family);
+CharacterSet charactersOf(const std::string& family) {
+  const FcFontSet* fonts = FcConfigGetFonts(nullptr, FcSetSystem);
+  for (int i = 0; fonts != nullptr && i < fonts->nfont; ++i) {
+    FcCharSet* characters = nullptr;
+    int weight = 0;
+    const bool isRegular = FcPatternGetInteger(fonts->fonts[i], FC_WEIGHT, 0, &weight) == FcResultMatch &&
+                           weight == FC_WEIGHT_REGULAR && textOf(fonts->fonts[i], FC_FAMILY) == family;
+    if (isRegular && FcPatternGetCharSet(fonts->fonts[i], FC_CHARSET, 0, &characters) == FcResultMatch) {
+      return CharacterSet(FcCharSetCopy(characters));
+    }
   }
-  FcPatternGetInteger(pattern.get(), FC_WEIGHT, 0, &face.weight);
-  return face;
+  return nullptr;
+}
+
+FontFace addFontFile(FcConfig* config, const std::filesystem::path& file) {
+  // The folder's cache says all of its fonts; a font alone would have to be read.
+  FcConfigAppFontAddDir(config, reinterpret_cast<const FcChar8*>(file.parent_path().c_str()));
+  const FcFontSet* fonts = FcConfigGetFonts(config, FcSetApplication);
+  for (int i = 0; fonts != nullptr && i < fonts->nfont; ++i) {
+    if (textOf(fonts->fonts[i], FC_FILE) == file.string()) return faceOf(fonts->fonts[i]);
+  }
+  return {};
 }
 
 }  // namespace rendering

@@ -2,20 +2,16 @@
 
 #include <pango/pangocairo.h>
 
-#include <map>
-#include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
-#include "rendering/fontconfig.hpp"
+#include "rendering/font_set.hpp"
 #include "rendering/gobject.hpp"
 #include "swiftui/alignment.hpp"
 #include "swiftui/font.hpp"
 
 namespace rendering {
-
-/// Stands in for the platform's system font: the closest free one in width, weight by weight.
-inline constexpr std::string_view systemFamily = "Inter";
 
 /// A font as the shaper is asked for it.
 struct GlyphStyle {
@@ -28,13 +24,7 @@ struct GlyphStyle {
   double spacingBehind(std::string_view line) const;
 };
 
-struct FreePangoFontDescription {
-  void operator()(PangoFontDescription* description) const { pango_font_description_free(description); }
-};
-using FontDescription = std::unique_ptr<PangoFontDescription, FreePangoFontDescription>;
-
-/// The one place that knows Pango's fonts: makes paragraphs in user units, unhinted, so that widths are the same at
-/// every scale.
+/// The one place that makes paragraphs.
 class GlyphText {
  public:
   GlyphText();
@@ -48,13 +38,14 @@ class GlyphText {
   swiftui::FontMetrics customFontMetrics(const swiftui::Font& font) const;
 
  private:
-  FontDescription description(const swiftui::Font& font) const;
-  const FontFace& customFace(const swiftui::Font& font) const;
+  /// Whether the system font has all of its letters: to look through all fonts of a machine takes longer than to draw a
+  /// widget.
+  bool isUsual(const std::string& content) const;
+  FontSet& fontsFor(const std::string& content) const;
 
-  FontconfigHandle fontconfig_;
-  GObjectHandle<PangoFontMap> fontMap_;
-  GObjectHandle<PangoContext> context_;
-  mutable std::map<std::string, FontFace> customFaces_;
+  mutable FontSet usual_;
+  CharacterSet letters_;
+  mutable std::optional<FontSet> all_;
 };
 
 }  // namespace rendering
