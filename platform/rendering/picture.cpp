@@ -1,13 +1,12 @@
 #include "rendering/picture.hpp"
 
-#include <librsvg/rsvg.h>
-
 #include <algorithm>
 #include <cstring>
 #include <string_view>
 
 #include "rendering/cairo_handles.hpp"
 #include "rendering/gobject.hpp"
+#include "rendering/svg_library.hpp"
 
 namespace rendering {
 namespace {
@@ -115,7 +114,7 @@ class Outlines final : public Picture {
 
   bool render(cairo_t* cairo) const {
     const RsvgRectangle viewport{0, 0, size_.width, size_.height};
-    return rsvg_handle_render_document(handle_.get(), cairo, &viewport, nullptr) != FALSE;
+    return SVGLibrary::open()->renderDocument(handle_.get(), cairo, &viewport, nullptr) != FALSE;
   }
 
  private:
@@ -145,12 +144,12 @@ cairo_status_t take(void* rest, unsigned char* to, unsigned int length) {
   return CAIRO_STATUS_SUCCESS;
 }
 
-swiftui::Size sizeOfSVG(RsvgHandle* handle) {
+swiftui::Size sizeOfSVG(const SVGLibrary& library, RsvgHandle* handle) {
   swiftui::Size size;
-  if (rsvg_handle_get_intrinsic_size_in_pixels(handle, &size.width, &size.height) != FALSE) return size;
+  if (library.intrinsicSize(handle, &size.width, &size.height) != FALSE) return size;
   gboolean hasViewBox = FALSE;
   RsvgRectangle viewBox = {};
-  rsvg_handle_get_intrinsic_dimensions(handle, nullptr, nullptr, nullptr, nullptr, &hasViewBox, &viewBox);
+  library.intrinsicDimensions(handle, nullptr, nullptr, nullptr, nullptr, &hasViewBox, &viewBox);
   return hasViewBox != FALSE ? swiftui::Size{.width = viewBox.width, .height = viewBox.height} : swiftui::Size{};
 }
 
@@ -175,12 +174,14 @@ std::unique_ptr<Picture> pictureOfPNG(const std::string& bytes, int density) {
 }
 
 std::unique_ptr<Picture> pictureOfSVG(const std::string& bytes) {
+  const SVGLibrary* const library = SVGLibrary::open();
+  if (library == nullptr) return nullptr;
   // Made from bytes, a picture has no place that it could refer to other files from.
   GObjectHandle<RsvgHandle> handle(
-      rsvg_handle_new_from_data(reinterpret_cast<const guint8*>(bytes.data()), bytes.size(), nullptr));
+      library->newFromData(reinterpret_cast<const guint8*>(bytes.data()), bytes.size(), nullptr));
   if (!handle) return nullptr;
-  rsvg_handle_set_dpi(handle.get(), 96);
-  const swiftui::Size size = sizeOfSVG(handle.get());
+  library->setDPI(handle.get(), 96);
+  const swiftui::Size size = sizeOfSVG(*library, handle.get());
   if (!isUsable(size)) return nullptr;
   constexpr std::size_t growth = 16;  // what is read takes several times the room of its text
   auto outlines = std::make_unique<Outlines>(std::move(handle), size, growth * bytes.size());
