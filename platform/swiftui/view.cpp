@@ -78,6 +78,9 @@ View View::multilineTextAlignment(TextAlignment alignment) const {
 View View::accessibilityHidden() const {
   return changing(HideFromAccessibility{});
 }
+View View::accessibilityLabel(std::string label) const {
+  return View(Node{AccessibilityLabelNode{.label = std::move(label), .content = *this}});
+}
 
 View emptyView() {
   return View(Node{EmptyNode{}});

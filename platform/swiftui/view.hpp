@@ -92,6 +92,9 @@ class View {
   View toggleStyle(Style style) const;
   /// Leaves it out of what a screen reader says.
   View accessibilityHidden() const;
+  /// Makes one thing of it to a screen reader, which says this in place of what is seen, unless empty; nothing where
+  /// it cannot be seen. It would hide a control: give it to the control's label.
+  View accessibilityLabel(std::string label) const;
 
  private:
   View changing(EnvironmentChange change) const;

@@ -105,7 +105,7 @@ TEST_F(BadInput, FallsBackWhereThereIsNothingToRead) {
     EXPECT_EQ(timeline.at("entries").at(0).at("count"), 0);
     const auto drawn = run(folder.path(), "render tasks systemSmall -o out.txt" + there.options());
     EXPECT_EQ(drawn.exitCode, 0);
-    EXPECT_EQ(support::readBytes(folder / "out.txt"), "TASKS\n21\nNo more tasks today\n");
+    EXPECT_EQ(support::readBytes(folder / "out.txt"), "Tasks\nSaturday, November 21\nNo more tasks today\n");
     std::filesystem::remove(folder / "out.txt");
   }
   EXPECT_EQ(support::readBytes(folder / "damaged/Library/Preferences/group.quorvanthimble.app.plist"), "damaged");

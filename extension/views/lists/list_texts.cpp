@@ -10,7 +10,8 @@ View listTitle(const std::string& name) {
   return text(foundation::uppercased(name))
       .font(system(13, FontWeight::medium, FontDesign::rounded))
       .opacity(0.9)
-      .lineLimit(1);
+      .lineLimit(1)
+      .accessibilityLabel(name);
 }
 
 std::string moreText(const foundation::Words& words, long long count) {
