@@ -3,6 +3,7 @@
 #include <unicode/smpdtfmt.h>
 
 #include <map>
+#include <tuple>
 #include <utility>
 
 #include "foundation/fatal_error.hpp"
@@ -13,14 +14,23 @@ namespace foundation {
 /// What ICU knows of a locale's way of writing, in a zone without rules of its own: it is told wall clocks.
 class DateFormatter::Format {
  public:
-  /// An empty pattern stands for the short time.
-  Format(const std::string& locale, const std::string& pattern) {
+  /// How the pattern is meant: as it stands, or as fields that the locale puts in order.
+  enum class Form { shortTime, pattern, skeleton };
+
+  Format(const std::string& locale, Form form, const std::string& pattern) {
     const icu::Locale icuLocale(locale.c_str());
+    const auto fields = icu::UnicodeString::fromUTF8(pattern);
     UErrorCode status = U_ZERO_ERROR;
-    if (pattern.empty()) {
-      format_.reset(icu::DateFormat::createTimeInstance(icu::DateFormat::kShort, icuLocale));
-    } else {
-      format_ = std::make_unique<icu::SimpleDateFormat>(icu::UnicodeString::fromUTF8(pattern), icuLocale, status);
+    switch (form) {
+      case Form::shortTime:
+        format_.reset(icu::DateFormat::createTimeInstance(icu::DateFormat::kShort, icuLocale));
+        break;
+      case Form::pattern:
+        format_ = std::make_unique<icu::SimpleDateFormat>(fields, icuLocale, status);
+        break;
+      case Form::skeleton:
+        format_.reset(icu::DateFormat::createInstanceForSkeleton(fields, icuLocale, status));
+        break;
     }
     if (format_ == nullptr || U_FAILURE(status)) fatalError("the locale data has no dates for " + locale);
     format_->setTimeZone(*icu::TimeZone::getGMT());
@@ -34,19 +44,20 @@ class DateFormatter::Format {
     return bytes;
   }
 
-  static std::shared_ptr<const Format> kept(const std::string& locale, const std::string& pattern);
+  static std::shared_ptr<const Format> kept(const Calendar& calendar, Form form, std::string_view pattern);
 
  private:
   std::unique_ptr<icu::DateFormat> format_;
 };
 
-std::shared_ptr<const DateFormatter::Format> DateFormatter::Format::kept(const std::string& locale,
-                                                                         const std::string& pattern) {
+std::shared_ptr<const DateFormatter::Format> DateFormatter::Format::kept(const Calendar& calendar, Form form,
+                                                                         std::string_view pattern) {
   constexpr std::size_t mostKept = 32;
-  thread_local std::map<std::pair<std::string, std::string>, std::shared_ptr<const Format>> formats;
+  thread_local std::map<std::tuple<std::string, Form, std::string>, std::shared_ptr<const Format>> formats;
   if (formats.size() > mostKept) formats.clear();
-  auto& format = formats[{locale, pattern}];
-  if (!format) format = std::make_shared<const Format>(locale, pattern);
+  const std::string& locale = calendar.locale().identifier();
+  auto& format = formats[{locale, form, std::string(pattern)}];
+  if (!format) format = std::make_shared<const Format>(locale, form, std::string(pattern));
   return format;
 }
 
@@ -54,10 +65,14 @@ DateFormatter::DateFormatter(std::shared_ptr<const Format> format, TimeZone time
     : format_(std::move(format)), timeZone_(timeZone) {}
 
 DateFormatter::DateFormatter(const Calendar& calendar, std::string_view pattern)
-    : DateFormatter(Format::kept(calendar.locale().identifier(), std::string(pattern)), calendar.timeZone()) {}
+    : DateFormatter(Format::kept(calendar, Format::Form::pattern, pattern), calendar.timeZone()) {}
 
 DateFormatter DateFormatter::shortTime(const Calendar& calendar) {
-  return {Format::kept(calendar.locale().identifier(), ""), calendar.timeZone()};
+  return {Format::kept(calendar, Format::Form::shortTime, ""), calendar.timeZone()};
+}
+
+DateFormatter DateFormatter::weekdayAndDay(const Calendar& calendar) {
+  return {Format::kept(calendar, Format::Form::skeleton, "EEEEMMMMd"), calendar.timeZone()};
 }
 
 std::string DateFormatter::string(Date date) const {

@@ -14,11 +14,15 @@ namespace foundation {
 /// Making one is cheap after the first of a locale and form: what the locale says is kept for the process.
 class DateFormatter {
  public:
-  /// By a pattern of the Unicode locale data: "LLLL" is the month's name standing alone, "LLLL yyyy" that and the year.
+  /// By a pattern of the Unicode locale data: "LLLL" is the month's name standing alone, "LLLL yyyy" that and the year,
+  /// "cccc" the weekday's.
   DateFormatter(const Calendar& calendar, std::string_view pattern);
 
   /// The time of day in the short form of the locale: "9:05 AM", "21:10".
   static DateFormatter shortTime(const Calendar& calendar);
+
+  /// Weekday, month and day in full, in the locale's order: "Saturday, November 21", "Samstag, 21. November".
+  static DateFormatter weekdayAndDay(const Calendar& calendar);
 
   std::string string(Date date) const;
 

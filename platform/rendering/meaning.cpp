@@ -17,8 +17,9 @@ bool isSaid(const ImageElement& image) {
          !image.options.label.empty();
 }
 
-/// What a leaf says by itself; null for nothing.
+/// What an element says by itself; null for nothing.
 const std::string* saidBy(const Element& element) {
+  if (const auto* labelled = std::get_if<AccessibilityLabelElement>(&element.value)) return &labelled->label;
   if (const auto* text = std::get_if<TextElement>(&element.value)) return isSaid(*text) ? &text->content : nullptr;
   if (const auto* image = std::get_if<ImageElement>(&element.value)) {
     return isSaid(*image) ? &image->options.label : nullptr;
@@ -31,6 +32,7 @@ void appendLabel(const PlacedElement& placed, std::string& label) {
   if (const auto* said = saidBy(*placed.element)) {
     if (!label.empty()) label += ", ";
     label += *said;
+    return;
   }
   for (const PlacedElement& child : placed.children) appendLabel(child, label);
 }
@@ -53,6 +55,7 @@ void collectMeaning(const PlacedElement& placed, Meaning& meaning) {
   if (const auto* said = saidBy(*placed.element)) {
     const bool isImage = std::holds_alternative<ImageElement>(placed.element->value);
     meaning.push_back({.label = *said, .frame = placed.frame, .isImage = isImage});
+    return;
   }
   for (const PlacedElement& child : placed.children) collectMeaning(child, meaning);
 }

@@ -119,6 +119,10 @@ struct LayerElement {
 struct ControlElement {
   Control control = {};
 };
+/// What a screen reader says in place of its child.
+struct AccessibilityLabelElement {
+  std::string label = {};
+};
 /// One of its children is shown.
 struct ViewThatFitsElement {};
 /// Its content is resolved when its size is known.
@@ -129,7 +133,7 @@ struct GeometryReaderElement {
 struct Element {
   std::variant<TextElement, ImageElement, ShapeElement, SpacerElement, StackElement, ZStackElement, PaddingElement,
                FixedFrameElement, FlexibleFrameElement, FixedSizeElement, LayoutPriorityElement, OffsetElement,
-               LayerElement, ControlElement, ViewThatFitsElement, GeometryReaderElement>
+               LayerElement, ControlElement, AccessibilityLabelElement, ViewThatFitsElement, GeometryReaderElement>
       value = ZStackElement{};
   std::vector<Element> children = {};
 };

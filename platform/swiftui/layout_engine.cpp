@@ -131,6 +131,7 @@ LayoutResult answer(LayoutEngine& engine, const Element& element, ProposedSize p
           [&](const OffsetElement& offset) { return transparent(engine, element, proposal, offset.offset); },
           [&](const LayerElement& layer) { return layoutLayer(engine, element, layer, proposal); },
           [&](const ControlElement&) { return transparent(engine, element, proposal); },
+          [&](const AccessibilityLabelElement&) { return transparent(engine, element, proposal); },
           [&](const ViewThatFitsElement&) { return layoutViewThatFits(engine, element, proposal); },
           [&](const GeometryReaderElement&) {
             return LayoutResult{.size = {.width = proposal.width.value_or(0), .height = proposal.height.value_or(0)}};

@@ -89,6 +89,11 @@ struct EnvironmentNode {
   EnvironmentChange change = {};
   View content;
 };
+/// Said in place of the content.
+struct AccessibilityLabelNode {
+  std::string label = {};
+  View content;
+};
 struct ToggleNode {
   ToggleOptions options = {};
   View label;
@@ -112,8 +117,8 @@ struct GeometryReaderNode {
 struct Node {
   std::variant<EmptyNode, GroupNode, ComponentNode, TextNode, ImageNode, ShapeNode, SpacerNode, StackNode, ZStackNode,
                PaddingNode, FixedFrameNode, FlexibleFrameNode, FixedSizeNode, LayoutPriorityNode, OffsetNode, LayerNode,
-               ContainerBackgroundNode, WidgetURLNode, EnvironmentNode, ToggleNode, GaugeNode, LinkNode,
-               ViewThatFitsNode, GeometryReaderNode>
+               ContainerBackgroundNode, WidgetURLNode, EnvironmentNode, AccessibilityLabelNode, ToggleNode, GaugeNode,
+               LinkNode, ViewThatFitsNode, GeometryReaderNode>
       value = EmptyNode{};
 };
 

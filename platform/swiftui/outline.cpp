@@ -45,6 +45,7 @@ std::string nameOf(const PlacedElement& placed) {
           [](const OffsetElement&) { return std::string("offset"); },
           [](const LayerElement& layer) { return std::string(layer.isBehind ? "background" : "overlay"); },
           [](const ControlElement& control) { return nameOf(control.control); },
+          [](const AccessibilityLabelElement& said) { return "said \"" + said.label + '"'; },
           [](const ViewThatFitsElement&) { return std::string("viewThatFits"); },
           [](const GeometryReaderElement&) { return std::string("geometryReader"); },
       },

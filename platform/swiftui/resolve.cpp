@@ -115,6 +115,12 @@ class Resolver {
     url = node.url;
   }
 
+  void append(const AccessibilityLabelNode& node, const EnvironmentValues& environment, Elements& out) {
+    const bool isSaid =
+        !node.label.empty() && environment.opacity > 0 && !environment.accessibilityHidden && !environment.isRedacted;
+    if (!isSaid) return append(node.content, environment, out);
+    wrapEach(node.content, environment, AccessibilityLabelElement{.label = node.label}, out);
+  }
   void append(const ToggleNode& node, const EnvironmentValues& environment, Elements& out) {
     const View look = environment.toggleStyle
                           ? environment.toggleStyle->makeBody({.isOn = node.options.isOn, .label = node.label})

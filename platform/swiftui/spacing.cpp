@@ -81,6 +81,7 @@ void appendEdges(const Element& element, Side side, Axis axis, const LayoutEngin
                  [&](const OffsetElement&) { childUnless(false); },
                  [&](const LayerElement&) { childUnless(false); },
                  [&](const ControlElement&) { childUnless(false); },
+                 [&](const AccessibilityLabelElement&) { childUnless(false); },
                  [&](const ViewThatFitsElement&) { childUnless(false); },
                  [&](const GeometryReaderElement&) { out.emplace_back(OtherEdge{}); },
              },

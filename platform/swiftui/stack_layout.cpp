@@ -35,6 +35,7 @@ double priorityOf(const Element& element) {
                         [&](const LayerElement&) { return priorityOf(element.children.front()); },
                         [&](const OffsetElement&) { return priorityOf(element.children.front()); },
                         [&](const ControlElement&) { return priorityOf(element.children.front()); },
+                        [&](const AccessibilityLabelElement&) { return priorityOf(element.children.front()); },
                         [](const auto&) { return 0.0; },
                     },
                     element.value);

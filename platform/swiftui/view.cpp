@@ -81,6 +81,9 @@ View View::unredacted() const {
 View View::accessibilityHidden() const {
   return changing(HideFromAccessibility{});
 }
+View View::accessibilityLabel(std::string label) const {
+  return View(Node{AccessibilityLabelNode{.label = std::move(label), .content = *this}});
+}
 
 View emptyView() {
   return View(Node{EmptyNode{}});

@@ -94,6 +94,9 @@ class View {
   View accessibilityHidden() const;
   /// Stays to be seen where the content around it is masked.
   View unredacted() const;
+  /// Makes one thing of it to a screen reader, which says this in place of what is seen, unless empty; nothing where
+  /// it cannot be seen. It would hide a control: give it to the control's label.
+  View accessibilityLabel(std::string label) const;
 
  private:
   View changing(EnvironmentChange change) const;

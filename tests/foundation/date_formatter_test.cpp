@@ -52,5 +52,19 @@ TEST(DateFormatter, WritesWhatTheClocksOfTheZoneShow) {
   }
 }
 
+TEST(DateFormatter, WritesWeekdayAndDayInTheOrderOfTheLocale) {
+  const struct {
+    const char* locale;
+    const char* day;
+  } rows[] = {
+      {"en_US", "Saturday, November 21"}, {"en_GB", "Saturday, 21 November"}, {"de_DE", "Samstag, 21. November"},
+      {"ru_RU", "суббота, 21 ноября"},    {"ja_JP", "11月21日土曜日"},
+  };
+  for (const auto& row : rows) {
+    const auto formatter = DateFormatter::weekdayAndDay(calendarIn("Asia/Tokyo", row.locale));
+    EXPECT_EQ(formatter.string(parseMoment("2026-11-20T16:00:00Z").value()), row.day) << row.locale;
+  }
+}
+
 }  // namespace
 }  // namespace foundation

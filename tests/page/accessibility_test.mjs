@@ -125,10 +125,12 @@ for (const [name, window] of [
     assert.equal(await page.evaluate(() => document.documentElement.scrollWidth <= innerWidth), true);
     const shares = await page.evaluate(() => {
       const tile = document.querySelector('[data-id="1"] .tile').getBoundingClientRect();
-      const box = document.querySelector('[data-id="1"] input').getBoundingClientRect();
-      return [box.left - tile.left, box.top + box.height / 2 - tile.top].map((length) => length / tile.width);
+      const box = document.querySelector('[data-id="1"] input');
+      const { left, top } = box.getBoundingClientRect();
+      const middle = parseFloat(box.style.getPropertyValue('--middle'));
+      return [(left - tile.left) * 158 / tile.width, (top - tile.top) * 158 / tile.width + middle];
     });
-    assert.deepEqual(shares.map((share) => Math.round(share * 158 * 10) / 10), [16, 50.5]);
+    assert.deepEqual(shares.map((share) => Math.round(share * 10) / 10), [16, 50.5]);
     await page.getByRole('checkbox', { name: 'Water the ferns' }).first().click();
     await page.locator('[data-id="1"]').getByRole('checkbox', { name: 'Water the ferns' }).waitFor({ state: 'detached' });
     const scale = window.deviceScaleFactor ?? 1;

@@ -105,7 +105,7 @@ TEST_F(BadInput, FallsBackWhereThereIsNothingToRead) {
     EXPECT_EQ(timeline.at("entries").at(0).at("count"), 0);
     const auto drawn = run(folder.path(), "render tasks systemSmall -o out.txt" + there.options());
     EXPECT_EQ(drawn.exitCode, 0);
-    EXPECT_EQ(support::readBytes(folder / "out.txt"), "TASKS\n21\nNo more tasks today\n");
+    EXPECT_EQ(support::readBytes(folder / "out.txt"), "Tasks\nSaturday, November 21\nNo more tasks today\n");
     std::filesystem::remove(folder / "out.txt");
   }
   EXPECT_EQ(support::readBytes(folder / "damaged/Library/Preferences/group.quorvanthimble.app.plist"), "damaged");
@@ -193,7 +193,7 @@ TEST_F(BadInput, ShowsADayOf500Events) {
     const auto result = ask("render " + kind + " systemMedium -o out.txt --at 2026-11-21T16:30:00Z");
     EXPECT_EQ(result.complaints, std::vector<std::string>()) << kind;
     // Those that end after 17:30 by the clocks of Berlin.
-    EXPECT_NE(support::readBytes(folder / "out.txt").find("event 391\n"), std::string::npos) << kind;
+    EXPECT_NE(support::readBytes(folder / "out.txt").find("event 391, "), std::string::npos) << kind;
     EXPECT_NE(support::readBytes(folder / "out.txt").find("+106 more\n"), std::string::npos) << kind;
   }
   const auto timeline = jsonOutput(ask("timeline events --json"));

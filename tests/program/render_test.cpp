@@ -39,9 +39,9 @@ TEST_F(RenderCommand, WritesAPictureOfThatManyPixels) {
 }
 
 TEST_F(RenderCommand, WritesWhatAWidgetSays) {
-  EXPECT_EQ(drawn("a.txt"), "TASKS\n21\n[ ] Buy milk\n[ ] Call Grandma\n[ ] Water <b>plants</b>\n");
-  EXPECT_EQ(drawn("b.txt", "--at 2026-11-22T12:00:00Z"), "TASKS\n22\n[ ] Rest\n");
-  EXPECT_EQ(drawn("c.txt", "", "Mirune_Widgets3"), "HABITS\n21\nNo more habits today\n");
+  EXPECT_EQ(drawn("a.txt"), "Tasks\nSaturday, November 21\n[ ] Buy milk\n[ ] Call Grandma\n[ ] Water <b>plants</b>\n");
+  EXPECT_EQ(drawn("b.txt", "--at 2026-11-22T12:00:00Z"), "Tasks\nSunday, November 22\n[ ] Rest\n");
+  EXPECT_EQ(drawn("c.txt", "", "Mirune_Widgets3"), "Habits\nSaturday, November 21\nNo more habits today\n");
 }
 
 TEST_F(RenderCommand, WritesThePlacedTree) {

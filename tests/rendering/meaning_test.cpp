@@ -39,19 +39,26 @@ TEST(Meaning, IsWhatAReaderMeetsInOrder) {
                      text("clear").foregroundColor(uikit::clear),
                      text(""),
                      text("two\nlines").background(text("behind")),
+                     hstack({}, {text("9"), text("AM")}).accessibilityLabel("Nine"),
+                     toggle({}, hstack({}, {text("21").accessibilityLabel("Saturday"), text("Sow")})),
+                     text("21").accessibilityLabel("Sunday").opacity(0),
+                     text("21").accessibilityLabel("Monday").accessibilityHidden(),
                  });
   EXPECT_EQ(plainText(meaningOf(shown)),
             "TODAY\n"
             "[x] Buy milk, 09:00\n"
             "[ ] Water the ferns on the balcony\n"
             "behind\n"
-            "two lines\n");
+            "two lines\n"
+            "Nine\n"
+            "[ ] Saturday, Sow\n");
 }
 
 TEST(Meaning, IsMaskedWithWhatIsShown) {
   const View shown =
       vstack({}, {text("Buy milk"), text("a\nb"), resizableImage("cat", {.label = "Happy"}), text("plain").unredacted(),
-                  toggle({.intent = Complete{}}, text("Call Mira")), text("clear").foregroundColor(uikit::clear)});
+                  toggle({.intent = Complete{}}, text("Call Mira").accessibilityLabel("Mira")),
+                  text("clear").foregroundColor(uikit::clear)});
   const ResolvedWidget widget = resolve(shown, {.isRedacted = true});
   const support::FakeMeasurer measurer;
   const PlacedElement placed = layout(widget.content, {.bounds = {.size = {200, 200}}}, measurer);

@@ -36,23 +36,26 @@ View title(const MoodEntry& entry, const ChartLook& look) {
       .minimumScaleFactor(0.5);
 }
 
-View cell(const MoodEntry& entry, std::size_t index, const ChartLook& look) {
+View cell(const MoodEntry& entry, std::size_t index, const ChartLook& look, std::int64_t today) {
   if (index >= entry.monthdata.size()) foundation::fatalError("a mood entry has fewer than 28 days of the month");
+  const int day = static_cast<int>(index) + 1;
   return MoodUnitView{.selected = std::cmp_equal(index, entry.day),
                       .textsize = look.textsize,
                       .moodItem = entry.monthdata[index].moodData,
-                      .day = static_cast<int>(index) + 1};
+                      .day = day,
+                      .isToday = day == today};
 }
 
 /// The rows of the chart. The last one is filled up with empty cells, so that its days are as large as the others and
 /// every month is as high.
-View rows(const MoodEntry& entry, const ChartLook& look) {
+View rows(const MoodEntry& entry, const ChartLook& look, const foundation::Calendar& calendar) {
+  const std::int64_t today = calendar.component(foundation::CalendarComponent::day, entry.date);
   std::vector<View> stacked;
   for (std::size_t row = 0; row <= wholeRows; ++row) {
     const std::size_t first = row * columns;
     const std::size_t end = row < wholeRows ? first + columns : std::max(first, entry.monthdata.size());
     std::vector<View> cells;
-    for (std::size_t index = first; index < end; ++index) cells.push_back(cell(entry, index, look));
+    for (std::size_t index = first; index < end; ++index) cells.push_back(cell(entry, index, look, today));
     while (cells.size() < columns) cells.emplace_back(MoodUnitView{.day = emptyCell});
     stacked.push_back(hstack({.spacing = look.spacing}, std::move(cells)).frame({.maxHeight = infinity}));
   }
@@ -78,12 +81,14 @@ View MoodChartView::body(const EnvironmentValues& environment) const {
   return ofFamily(entry, environment).widgetURL(moodChartPage(*environment.platform));
 }
 
-View MoodChartViewAct::body(const EnvironmentValues&) const {
-  return vstack({}, {title(entry, largeLook).frame({.height = 20}), rows(entry, largeLook)}).padding(paddingt);
+View MoodChartViewAct::body(const EnvironmentValues& environment) const {
+  const View days = rows(entry, largeLook, environment.platform->calendar);
+  return vstack({}, {title(entry, largeLook).frame({.height = 20}), days}).padding(paddingt);
 }
 
-View MoodChartViewActS::body(const EnvironmentValues&) const {
-  return vstack({.spacing = 0}, {title(entry, smallLook).padding(10), rows(entry, smallLook)}).padding(10);
+View MoodChartViewActS::body(const EnvironmentValues& environment) const {
+  const View days = rows(entry, smallLook, environment.platform->calendar);
+  return vstack({.spacing = 0}, {title(entry, smallLook).padding(10), days}).padding(10);
 }
 
 }  // namespace mirune

@@ -3,9 +3,11 @@
 #include "calendar_mood/mood_chart_view.hpp"
 #include "calendar_mood/mood_day_view.hpp"
 #include "calendar_mood/planner_pages.hpp"
+#include "calendar_mood/spoken_day.hpp"
 #include "calendar_mood/title_font.hpp"
 #include "foundation/fatal_error.hpp"
 #include "styling/backgrounds.hpp"
+#include "timelines/days.hpp"
 
 namespace mirune {
 
@@ -51,14 +53,20 @@ View Mirune_WidgetsEntryViewNew::body(const EnvironmentValues& environment) cons
 
 View Mirune_WidgetsEntryViewNewAA::body(const EnvironmentValues& environment) const {
   const uikit::Platform& platform = *environment.platform;
+  const foundation::Calendar& calendar = platform.calendar;
+  const foundation::Date startOfToday = calendar.startOfDay(entry.date);
+  const std::string nameOfToday = platform.words.localized("Today");
   std::vector<View> cells;
   for (std::size_t i = 0; i < today; ++i) {
     const MoodWidgetInner& day = dayAt(entry, i);
-    cells.emplace_back(
-        Mood_DayView{.moodItem = day.moodData, .day = day.text, .position = static_cast<int>(today - i)});
+    const int position = static_cast<int>(today - i);
+    cells.emplace_back(Mood_DayView{.moodItem = day.moodData,
+                                    .day = day.text,
+                                    .position = position,
+                                    .spoken = spokenDay(calendar, dayAfter(calendar, startOfToday, -position))});
   }
   cells.emplace_back(
-      Mood_DayView{.moodItem = moodOfToday(entry), .day = platform.words.localized("Today"), .position = 0});
+      Mood_DayView{.moodItem = moodOfToday(entry), .day = nameOfToday, .position = 0, .spoken = nameOfToday});
   for (View& cell : cells) cell = cell.frame({.maxWidth = infinity});
   return vstack({.alignment = HorizontalAlignment::leading, .spacing = 0},
                 {title(platform).lineLimit(1).frame(

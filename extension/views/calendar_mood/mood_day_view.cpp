@@ -15,7 +15,9 @@ View MoodCell::body(const EnvironmentValues&) const {
 
 View Mood_DayView::body(const EnvironmentValues& environment) const {
   const View name = text(day).font(system(9)).lineLimit(1).minimumScaleFactor(0.5);
-  return link(moodPage(*environment.platform, position), vstack({}, {MoodCell{.moodItem = moodItem}, name}));
+  const std::string said = moodItem.id.empty() ? spoken : spoken + ", " + moodItem.name;
+  return link(moodPage(*environment.platform, position),
+              vstack({}, {MoodCell{.moodItem = moodItem}, name}).accessibilityLabel(said));
 }
 
 }  // namespace mirune

@@ -18,7 +18,8 @@ struct MoodCell {
 struct Mood_DayView {
   MiruneDailyMood moodItem = {};
   std::string day = {};
-  int position = 0;  ///< days before today
+  int position = 0;         ///< days before today
+  std::string spoken = {};  ///< what a screen reader says for its name
 
   swiftui::View body(const swiftui::EnvironmentValues& environment) const;
 };

@@ -13,7 +13,8 @@ struct MoodUnitView {
   bool selected = false;
   double textsize = 14;  ///< of the number, points
   MiruneDailyMood moodItem = {};
-  int day = emptyCell;  ///< of the month, from 1
+  int day = emptyCell;   ///< of the month, from 1
+  bool isToday = false;  ///< said, not shown
 
   swiftui::View body(const swiftui::EnvironmentValues& environment) const;
 };

@@ -16,18 +16,20 @@ const EventWidgetInner& firstEvent(const EventEntry& entry) {
 }
 
 View row(const EventWidgetInner& event, const foundation::Words& words) {
+  const std::string timeText = eventTimeText(event.allday, event.time, words);
   const View bar = filled(RoundedRectangle{.cornerRadius = 1})
                        .foregroundColor(event.color)
                        .frame({.width = 2})
                        .padding({.top = 2, .bottom = 2});
-  const View texts =
-      vstack({.alignment = HorizontalAlignment::leading, .spacing = 0},
-             {
-                 text(event.title).font(system(16, FontWeight::medium)).lineLimit(1),
-                 text(eventTimeText(event.allday, event.time, words)).font(system(14)).lineLimit(1).opacity(0.9),
-             })
-          .padding({.leading = 7});
-  return hstack({.spacing = 0}, {bar, texts}).fixedSize(false, true);
+  const View texts = vstack({.alignment = HorizontalAlignment::leading, .spacing = 0},
+                            {
+                                text(event.title).font(system(16, FontWeight::medium)).lineLimit(1),
+                                text(timeText).font(system(14)).lineLimit(1).opacity(0.9),
+                            })
+                         .padding({.leading = 7});
+  return hstack({.spacing = 0}, {bar, texts})
+      .fixedSize(false, true)
+      .accessibilityLabel(spokenEvent(event.title, timeText));
 }
 
 /// " 9:00 - Breakfast": the blanks at the start stand between the picture and the text.

@@ -3,6 +3,7 @@
 #include <array>
 #include <span>
 
+#include "calendar_mood/spoken_day.hpp"
 #include "foundation/fatal_error.hpp"
 #include "styling/fonts.hpp"
 
@@ -54,8 +55,8 @@ View HeaderBadge::body(const EnvironmentValues& environment) const {
   return badgeSizer()
       .padding({.leading = 4, .trailing = 4})
       .background(resizableImage(badgeImageName(image, scheme)))
-      .overlay(
-          text(std::to_string(day)).font(custom(badgeFont, 13.5)).opacity(scheme == ColorScheme::dark ? 0.9 : 0.6));
+      .overlay(text(std::to_string(day)).font(custom(badgeFont, 13.5)).opacity(scheme == ColorScheme::dark ? 0.9 : 0.6))
+      .accessibilityLabel(spokenDay(calendar, date));
 }
 
 }  // namespace mirune

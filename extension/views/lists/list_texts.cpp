@@ -11,7 +11,8 @@ View listTitle(const std::string& name) {
       .font(system(13, FontWeight::medium, FontDesign::rounded))
       .opacity(0.9)
       .lineLimit(1)
-      .minimumScaleFactor(0.7);
+      .minimumScaleFactor(0.7)
+      .accessibilityLabel(name);
 }
 
 std::string moreText(const foundation::Words& words, long long count) {

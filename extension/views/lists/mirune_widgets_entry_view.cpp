@@ -27,7 +27,8 @@ View title(const foundation::Words& words) {
       .lineLimit(1)
       .minimumScaleFactor(smallestScale)
       .frame({.height = 10})
-      .opacity(0.6);
+      .opacity(0.6)
+      .accessibilityLabel(words.localized("Quote of the Day"));
 }
 
 }  // namespace

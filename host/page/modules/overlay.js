@@ -92,7 +92,7 @@ export function createOverlay() {
       const hadFocus = layer.contains(document.activeElement);
       /** @type {Map<string, HTMLElement>} */
       const next = new Map();
-      const targets = targetsOf(widget.meaning);
+      const targets = targetsOf(widget.meaning, context.phone.shrink());
       for (const [i, part] of widget.meaning.entries()) {
         const role = roles[part.role] ?? said;
         const name = [part.role, part.id ?? part.url ?? part.label, part.date ?? ''].join('\n');

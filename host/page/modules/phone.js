@@ -34,9 +34,9 @@ export function gridOf(state) {
 /**
  * The frame around the screens: true point sizes, made smaller where the window is narrower than the phone.
  * @param {import('./store.js').Store} store
- * @param {() => void} densityChanged
+ * @param {() => void} scaleChanged
  */
-export function createPhone(store, densityChanged) {
+export function createPhone(store, scaleChanged) {
   const phone = /** @type {HTMLElement} */ (document.querySelector('.phone'));
   const space = /** @type {HTMLElement} */ (document.querySelector('.phone-space'));
   let shrink = 1;
@@ -46,18 +46,16 @@ export function createPhone(store, densityChanged) {
     const wide = phone.offsetWidth;
     if (!wide) return;
     const shown = Math.min(1, byId('screens').clientWidth / wide);
-    if (shown !== shrink) {
-      shrink = shown;
+    const next = Math.min(4, Math.max(1, Math.ceil(devicePixelRatio * 2 - 0.01) / 2));
+    const isOther = shown !== shrink || next !== density;
+    [shrink, density] = [shown, next];
+    if (isOther) {
       phone.style.transform = shown < 1 ? `scale(${shown})` : '';
       space.style.setProperty('--shrink', String(shown));
     }
     space.style.height = `${phone.offsetHeight * shown}px`;
     space.style.width = `${wide * shown}px`;
-    const next = Math.min(4, Math.max(1, Math.ceil(devicePixelRatio * 2 - 0.01) / 2));
-    if (next !== density) {
-      density = next;
-      densityChanged();
-    }
+    if (isOther) scaleChanged();
   }
 
   store.subscribe(() => {

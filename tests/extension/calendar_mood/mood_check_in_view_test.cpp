@@ -30,9 +30,10 @@ TEST(MoodCheckIn, LeadsToThePageOfEachDay) {
   MoodEntry entry = moodEntryOf(30, someMood());
   entry.data[1].moodData.id = "";
   EXPECT_EQ(linksOf(moodScene("mood", entry, WidgetFamily::systemMedium, platform)),
-            (std::vector<std::string>{"Calm, 16 <https://a/mood/5>", "17 <https://a/mood/4>",
-                                      "Calm, 18 <https://a/mood/3>", "Calm, 19 <https://a/mood/2>",
-                                      "Calm, 20 <https://a/mood/1>", "Calm, Today <https://a/mood/0>"}));
+            (std::vector<std::string>{
+                "Monday, November 16, Calm <https://a/mood/5>", "Tuesday, November 17 <https://a/mood/4>",
+                "Wednesday, November 18, Calm <https://a/mood/3>", "Thursday, November 19, Calm <https://a/mood/2>",
+                "Friday, November 20, Calm <https://a/mood/1>", "Today, Calm <https://a/mood/0>"}));
   EXPECT_EQ(moodScene("mood", entry, WidgetFamily::systemMedium, platform).url, std::nullopt);
   const auto small = moodScene("mood", entry, WidgetFamily::systemSmall, platform);
   EXPECT_EQ(small.url, "https://a/mood/0");

@@ -149,8 +149,8 @@ TEST(TaskWidgetView, CutsWhatIsTooLongInThePictureOnly) {
 TEST(TaskWidgetView, SaysWhatItsRowsMark) {
   const auto meaning = rendering::jsonOf(sceneOfList(entryOf(5)).meaning);
   ASSERT_EQ(meaning.size(), 6U);
-  EXPECT_EQ(meaning[0].at("label"), "TASKS");
-  EXPECT_EQ(meaning[1].at("label"), "21");
+  EXPECT_EQ(meaning[0].at("label"), "Tasks");
+  EXPECT_EQ(meaning[1].at("label"), "Saturday, November 21");
   for (std::size_t row = 1; row <= 3; ++row) {
     const json said(meaning[row + 1]);
     const json expected{{"role", "checkbox"},

@@ -16,12 +16,12 @@ export function plainPictures() {
   };
   const listed = rows([16, 40], 21, 27);
   const meanings = {
-    systemSmall: (_, moment) => [{ role: 'text', label: 'TASKS', frame: [16, 15, 41, 16] }, ...listed(moment)],
+    systemSmall: (_, moment) => [{ role: 'text', label: 'Tasks', frame: [16, 15, 41, 16] }, ...listed(moment)],
     systemMedium: (widget, moment) => (widget.shortName === 'mood'
       ? [{ role: 'text', label: 'How are you feeling today?', frame: [16, 30, 303, 38] },
         ...['Yesterday', 'Today'].map((label, i) => ({ role: 'link', label, url: `https://planner.example/mood/${1 - i}`,
           frame: [16 + 52 * i, 82, 45, 60] }))]
-      : [{ role: 'text', label: 'TASKS', frame: [16, 15, 41, 16] }, ...listed(moment)]),
+      : [{ role: 'text', label: 'Tasks', frame: [16, 15, 41, 16] }, ...listed(moment)]),
     systemLarge: () => [{ role: 'image', label: '1, Happy', frame: [20, 55, 29, 29] }],
     accessoryCircular: (_, moment) => [{ role: 'gauge', label: 'Tasks', value: done.size, total: tasks.length,
       frame: [0, 0, 72, 72] }].filter(() => moment),

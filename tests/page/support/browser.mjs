@@ -11,10 +11,10 @@ const executablePath = process.env.CHROMIUM ?? '/usr/bin/chromium';
 /** How long a condition may take, in milliseconds. */
 const patience = 30_000;
 
-/** Starts one browser for the tests of a file; call it at the file's top level. */
-export function useBrowser() {
+/** Starts one browser for the tests of a file; call it at the file's top level. @param {string[]} [options] of Chromium's */
+export function useBrowser(options = []) {
   const used = { browser: null };
-  before(async () => { used.browser = await chromium.launch({ executablePath, args: ['--no-sandbox'] }); });
+  before(async () => { used.browser = await chromium.launch({ executablePath, args: ['--no-sandbox', ...options] }); });
   after(() => used.browser?.close());
   return used;
 }
