@@ -28,7 +28,7 @@ TextElement resolvedText(const View& view, const EnvironmentValues& environment 
 
 TEST(Resolving, WorksTheEnvironmentIntoTheLeaves) {
   const TextElement plain = resolvedText(text("a"));
-  EXPECT_EQ(plain.style, (TextStyle{.font = system(17)}));
+  EXPECT_EQ(plain.style, (TextStyle{.font = system(17), .language = "en-US"}));
   EXPECT_EQ(plain.paint, (Paint{.color = {0, 0, 0, 1}}));
 
   const TextElement styled = resolvedText(text("a")
@@ -45,7 +45,8 @@ TEST(Resolving, WorksTheEnvironmentIntoTheLeaves) {
                                      .lineLimit = 3,
                                      .minimumScaleFactor = 0.5,
                                      .alignment = TextAlignment::center,
-                                     .direction = LayoutDirection::rightToLeft}));
+                                     .direction = LayoutDirection::rightToLeft,
+                                     .language = "en-US"}));
   EXPECT_TRUE(styled.paint.accessibilityHidden);
 }
 
