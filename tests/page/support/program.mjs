@@ -7,13 +7,16 @@ import { program } from '../mock/mirune_pictures.mjs';
 
 /** The program's own home screen, on a sample container in a folder of its own. */
 export class Program {
-  /** @param {string[]} options more options of `mirune serve` */
-  static async start(options = []) {
+  /**
+   * @param {string[]} options more options of `mirune serve`
+   * @param {string[]} planner more options of `mirune demo`
+   */
+  static async start(options = [], planner = []) {
     const folder = await mkdtemp(join(tmpdir(), 'mirune-serve-'));
     await mkdir(join(folder, 'run'), { mode: 0o700 });
     const container = join(folder, 'container');
     const at = options.includes('--now') ? ['--now', options[options.indexOf('--now') + 1]] : [];
-    execFileSync(program, ['demo', container, '--timezone', 'Europe/Berlin', ...at]);
+    execFileSync(program, ['demo', container, '--timezone', 'Europe/Berlin', ...at, ...planner]);
     const server = spawn(program, ['serve', '--port', '0', '--container', container, '--timezone', 'Europe/Berlin', ...options], {
       env: { ...process.env, XDG_DATA_HOME: join(folder, 'data'), XDG_RUNTIME_DIR: join(folder, 'run') },
       stdio: ['ignore', 'pipe', 'ignore'],
