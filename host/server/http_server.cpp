@@ -11,6 +11,8 @@
 #include <boost/beast/http.hpp>
 #include <memory>
 
+#include "host/server/received_request.hpp"
+
 namespace host {
 
 namespace asio = boost::asio;
@@ -44,24 +46,6 @@ struct Load {
   int connections = 0;
   int listeners = 0;
 };
-
-std::string textOf(const auto& request, auto field) {
-  // Twice the same header could be read in two ways.
-  return request.count(field) == 1 ? std::string(request[field]) : std::string();
-}
-
-HTTPRequest requestOf(const http::request<http::string_body>& received) {
-  auto [path, query] = splitTarget(std::string(received.target()));
-  return {.method = std::string(received.method_string()),
-          .path = std::move(path),
-          .query = std::move(query),
-          .host = textOf(received, http::field::host),
-          .origin = received.count(http::field::origin) > 1 ? "null" : textOf(received, http::field::origin),
-          .fetchSite = std::string(received["Sec-Fetch-Site"]),
-          .cookie = textOf(received, http::field::cookie),
-          .authorization = textOf(received, http::field::authorization),
-          .body = received.body()};
-}
 
 void addSafeHeaders(auto& response) {
   response.set("Content-Security-Policy", "default-src 'self'; frame-ancestors 'none'; base-uri 'none'");

@@ -48,7 +48,7 @@ LayoutResult layoutShape(const ShapeElement& shape, ProposedSize proposal) {
 }
 
 LayoutResult layoutSpacer(const SpacerElement& spacer, ProposedSize proposal) {
-  const double least = spacer.minLength.value_or(defaultSpacerLength);
+  const double least = std::max(0.0, spacer.minLength.value_or(defaultSpacerLength));
   const auto length = [&](Axis axis, std::optional<double> proposed) {
     return spacer.axis.value_or(axis) == axis ? std::max(least, proposed.value_or(least)) : 0;
   };

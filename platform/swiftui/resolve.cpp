@@ -1,3 +1,5 @@
+#include <cmath>
+
 #include "swiftui/element.hpp"
 #include "swiftui/gauge_look.hpp"
 #include "swiftui/node.hpp"
@@ -5,6 +7,11 @@
 
 namespace swiftui {
 namespace {
+
+/// A length that is none counts as not given.
+std::optional<double> finite(std::optional<double> length) {
+  return length && std::isfinite(*length) ? length : std::nullopt;
+}
 
 /// Resolves one widget; keeps the container background and the address that it meets on the way (the
 /// outermost ones win).
@@ -64,14 +71,15 @@ class Resolver {
                                          .paint = paint(environment)}});
   }
   void append(const SpacerNode& node, const EnvironmentValues&, Elements& out) {
-    out.push_back({.value = SpacerElement{.minLength = node.minLength}});
+    out.push_back({.value = SpacerElement{.minLength = finite(node.minLength)}});
   }
 
   void append(const StackNode& node, const EnvironmentValues& environment, Elements& out) {
     Elements children = all(node.children, environment);
     for (Element& child : children) stretchAlong(node.axis, child);
-    out.push_back({.value = StackElement{.axis = node.axis, .alignment = node.alignment, .spacing = node.spacing},
-                   .children = std::move(children)});
+    out.push_back(
+        {.value = StackElement{.axis = node.axis, .alignment = node.alignment, .spacing = finite(node.spacing)},
+         .children = std::move(children)});
   }
   void append(const ZStackNode& node, const EnvironmentValues& environment, Elements& out) {
     out.push_back({.value = ZStackElement{.alignment = node.alignment}, .children = all(node.children, environment)});
