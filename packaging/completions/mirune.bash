@@ -53,7 +53,7 @@ _mirune() {
     --now | --at | --date | --locale | --screen | --system-version | --planner-url | --scale | --port | --speed) return ;;
     *)
       if [[ $word == -* ]]; then
-        words=$(_mirune_options "${plain[0]}")
+        words=$(_mirune_options "${plain[0]-}")
       elif [ ${#plain[@]} -eq 0 ]; then
         words="gallery timeline placeholder snapshot render sheet tap demo doctor device-name serve"
       else
