@@ -63,7 +63,7 @@ std::optional<std::string> addressOfRunningServer(const std::filesystem::path& t
     if (!error) answer = std::move(body);
   });
   context.run();
-  const std::string address = answer.substr(0, answer.find('\n'));
+  std::string address = answer.substr(0, answer.find('\n'));
   if (!address.starts_with("http://127.0.0.1:" + std::to_string(port) + "/open/")) return std::nullopt;
   return address;
 }
