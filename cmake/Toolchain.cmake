@@ -4,8 +4,12 @@ set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
-# -O3 of g++ 12 reports -Wrestrict where there is nothing to report (string operator+), so release is -O2.
-set(CMAKE_CXX_FLAGS_RELEASE "-O2 -g1")
+# -O3 of g++ 12 reports -Wrestrict where there is nothing to report (string operator+), so release is -O2. What is released
+# is hardened, and says nothing of the folder that it was built in. Functions of libraries are bound when they are first
+# called, for the extension starts often and calls few of them.
+set(CMAKE_CXX_FLAGS_RELEASE
+    "-O2 -g1 -fstack-protector-strong -D_FORTIFY_SOURCE=2 -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.")
+set(CMAKE_EXE_LINKER_FLAGS_RELEASE "-Wl,-z,relro")
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
 

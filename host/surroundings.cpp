@@ -25,7 +25,8 @@ std::filesystem::path variableOr(const char* name, const std::filesystem::path& 
 
 Surroundings currentSurroundings() {
   std::error_code ignored;
-  const auto folder = std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path();
+  // The build folder has the layout of an installed program: PREFIX/bin, PREFIX/libexec, PREFIX/share.
+  const auto prefix = std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path().parent_path();
   const foundation::LocaleVariables localeVariables = {.language = variable("LANGUAGE"),
                                                        .lcAll = variable("LC_ALL"),
                                                        .lcMessages = variable("LC_MESSAGES"),
@@ -36,8 +37,8 @@ Surroundings currentSurroundings() {
       .locale = foundation::systemLocale(localeVariables).identifier(),
       .container = defaultContainer(
           {.container = variable("MIRUNE_CONTAINER"), .dataHome = variable("XDG_DATA_HOME"), .home = variable("HOME")}),
-      .extension = variableOr("MIRUNE_EXTENSION", folder / "mirune-extension"),
-      .resources = variableOr("MIRUNE_RESOURCES", folder.parent_path() / "share" / "mirune")};
+      .extension = variableOr("MIRUNE_EXTENSION", prefix / "libexec" / "mirune-extension"),
+      .resources = variableOr("MIRUNE_RESOURCES", prefix / "share" / "mirune")};
 }
 
 std::filesystem::path defaultContainer(const ContainerVariables& variables) {

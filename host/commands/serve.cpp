@@ -3,14 +3,16 @@
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/signal_set.hpp>
 #include <cstdlib>
-#include <iostream>
+#include <thread>
 
 #include "foundation/user_defaults.hpp"
+#include "host/browser.hpp"
 #include "host/commands/command.hpp"
 #include "host/commands/world_options.hpp"
 #include "host/live/page_words.hpp"
 #include "host/server/api.hpp"
 #include "host/server/http_server.hpp"
+#include "host/server/running_server.hpp"
 #include "host/server/token_file.hpp"
 #include "host/standard_streams.hpp"
 
@@ -39,6 +41,10 @@ void say(const std::string& line) {
   writeAll(STDERR_FILENO, "mirune: " + line + "\n");
 }
 
+void sayAddress(const std::string& address) {
+  writeAll(STDOUT_FILENO, "The home screen is at " + address + "\n");
+}
+
 struct Serve {
   explicit Serve(const Surroundings& where) : surroundings(where), device(where) {}
 
@@ -52,7 +58,11 @@ struct Serve {
 
     asio::io_context context(1);
     auto server = HTTPServer::listening(context.get_executor(), port);
-    if (!server) return failed(server.error() + " (--port 0 takes any that is free)");
+    if (!server) {
+      if (const auto address = opens ? addressOfRunningServer(folder, port) : std::nullopt)
+        return openRunning(*address);
+      return failed(server.error() + " (--port 0 takes any that is free)");
+    }
     const auto random = foundation::systemRandomSource();
     const auto token = tokenIn(folder, server->port(), random);
     if (!token) return failed(token.error());
@@ -96,7 +106,8 @@ struct Serve {
           homeScreen.start();
           server->start([&](HTTPRequest request) { return api.answer(std::move(request)); });
           // Whoever waits for the address reads it now, not when this ends.
-          writeAll(STDOUT_FILENO, "The home screen is at " + access.newAddress() + "\n");
+          sayAddress(access.newAddress());
+          if (opens) openBeside(access.newAddress());
         },
         asio::detached);
     context.run();
@@ -104,8 +115,23 @@ struct Serve {
     return "";
   }
 
+  /// For a home screen that is served already, as by a systemd unit.
+  static Outcome openRunning(const std::string& address) {
+    sayAddress(address);
+    if (const auto problem = openInBrowser(address)) return failed(*problem);
+    return "";
+  }
+
+  /// The server does not wait for the browser, nor end with it.
+  static void openBeside(const std::string& address) {
+    std::thread([address] {
+      if (const auto problem = openInBrowser(address)) say(*problem);
+    }).detach();
+  }
+
   Surroundings surroundings;
   WorldOptions device;
+  bool opens = false;
   int port = usualPort;
   double speed = 1;
 };
@@ -122,6 +148,8 @@ Command serveCommand() {
                 ->check(CLI::Range(0, 65535));
             app.add_option("--speed", serve->speed, "Seconds that pass in each, for trying out a day in a minute")
                 ->check(CLI::Range(0.001, 1e6));
+            app.add_flag("--open", serve->opens,
+                         "Open the address in the browser; where the port is served already, one of that server");
             app.footer(
                 "Prints an address that lets in one browser; that browser stays let in. Only this machine and "
                 "this user can reach it. Ends with Ctrl+C; reads everything again on SIGHUP.");

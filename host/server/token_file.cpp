@@ -37,6 +37,10 @@ std::string readToken(const fs::path& path) {
   return token.find_first_not_of("0123456789abcdef") == std::string::npos ? token : std::string();
 }
 
+fs::path tokenFile(const fs::path& folder, int port) {
+  return folder / ("token-" + std::to_string(port));
+}
+
 }  // namespace
 
 fs::path tokenFolder(const TokenVariables& variables) {
@@ -54,7 +58,7 @@ std::expected<std::string, std::string> tokenIn(const fs::path& folder, int port
   std::error_code error;
   fs::create_directories(folder.parent_path(), error);
   if (::mkdir(folder.c_str(), S_IRWXU) != 0 && errno != EEXIST) return failed(folder);
-  const fs::path path = folder / ("token-" + std::to_string(port));
+  const fs::path path = tokenFile(folder, port);
   if (auto known = readToken(path); !known.empty()) return known;
 
   std::string token = newToken(random);
@@ -67,6 +71,10 @@ std::expected<std::string, std::string> tokenIn(const fs::path& folder, int port
     return failed(path);
   }
   return token;
+}
+
+std::string knownToken(const fs::path& folder, int port) {
+  return readToken(tokenFile(folder, port));
 }
 
 }  // namespace host

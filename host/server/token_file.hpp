@@ -25,4 +25,7 @@ std::filesystem::path tokenFolder(const TokenVariables& variables);
 std::expected<std::string, std::string> tokenIn(const std::filesystem::path& folder, int port,
                                                 const foundation::RandomSource& random);
 
+/// The token that tokenIn() has left for the port; empty where there is none, or it is not this user's alone.
+std::string knownToken(const std::filesystem::path& folder, int port);
+
 }  // namespace host

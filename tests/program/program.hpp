@@ -30,13 +30,15 @@ inline std::string quoted(const std::string& text) {
   return result + "'";
 }
 
-/// Runs `mirune ARGUMENTS` in a folder; one that takes longer than a minute counts as hanging.
-inline ProgramRun run(const std::filesystem::path& folder, const std::string& arguments) {
+/// Runs `mirune ARGUMENTS` in a folder, with variables such as "NAME=value"; one that takes longer than a minute counts
+/// as hanging.
+inline ProgramRun run(const std::filesystem::path& folder, const std::string& arguments,
+                      const std::string& variables = {}) {
   const support::TemporaryFolder streams;
-  const std::string command =
-      "cd " + quoted(folder.string()) +
-      " && env -u MIRUNE_CONTAINER -u MIRUNE_EXTENSION -u MIRUNE_RESOURCES timeout 60 " MIRUNE_PROGRAM " " + arguments +
-      " >" + quoted((streams / "output").string()) + " 2>" + quoted((streams / "error").string());
+  const std::string command = "cd " + quoted(folder.string()) +
+                              " && env -u MIRUNE_CONTAINER -u MIRUNE_EXTENSION -u MIRUNE_RESOURCES " + variables +
+                              " timeout 60 " MIRUNE_PROGRAM " " + arguments + " >" +
+                              quoted((streams / "output").string()) + " 2>" + quoted((streams / "error").string());
   const int status = std::system(command.c_str());
   ProgramRun result{.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1,
                     .output = support::readBytes(streams / "output")};
