@@ -7,8 +7,6 @@
 
 namespace {
 
-using database::set;
-
 template <auto member>
 concept HasColumn = requires { database::column<member>; };
 static_assert(HasColumn<&Book::title>);
@@ -23,11 +21,6 @@ static_assert(!Comparable<decltype(pages), const char*>, "a text for a number");
 static_assert(!Comparable<decltype(pages), double> && !Comparable<decltype(pages), long>, "a number that may not fit");
 static_assert(!Comparable<decltype(pages), decltype(pages)>, "a column for a value");
 
-template <class Column, class Given>
-concept Settable = requires(Column column, Given given) { set(column, given); };
-static_assert(Settable<decltype(weight), double> && Settable<decltype(title), const char*>);
-static_assert(!Settable<decltype(weight), const char*> && !Settable<decltype(pages), double>, "another type");
-
 template <class... Assignments>
 concept Insertable = requires(database::Database database, Assignments... values) { database.insert(values...); };
 using Title = database::Assignment<&Book::title>;
@@ -41,18 +34,6 @@ static_assert(!Insertable<Title, Pages, Pages>, "one is missing, one stands twic
 static_assert(!Insertable<Title, Pages, Weight, Weight>, "one stands twice");
 static_assert(!Insertable<Title, Pages, Weight, Id>, "the key is the database's");
 static_assert(!Insertable<Title, Pages, Room>, "a column of another table");
-
-template <class Where, class... Assignments>
-concept Updatable =
-    requires(database::Database database, Where where, Assignments... values) { database.update(where, values...); };
-static_assert(Updatable<database::Condition<Book>, Title> && Updatable<database::Condition<Book>, Title, Weight>);
-static_assert(!Updatable<database::Condition<Shelf>, Title>, "a condition on another table");
-static_assert(!Updatable<database::Condition<Book>>, "nothing to change");
-
-template <class... Clauses>
-concept Selectable = requires(database::Database database, Clauses... clauses) { database.select(clauses...); };
-static_assert(Selectable<database::Condition<Book>, database::Order<Book>, database::Order<Book>>);
-static_assert(!Selectable<database::Condition<Book>, database::Order<Shelf>>, "an order by another table");
 
 template <class Left, class Right>
 concept Joinable = requires(Left left, Right right) { left&& right; };

@@ -88,11 +88,6 @@ TEST_F(DatabaseTest, GivesBackWhatWasWritten) {
             (std::vector<Book>{{.id = key, .title = odd, .pages = -2147483647 - 1, .weight = -0.1}}));
 }
 
-TEST_F(DatabaseTest, NeverGivesAKeyTwice) {
-  EXPECT_EQ(database.remove(id == 4), 1);
-  EXPECT_EQ(database.insert(set(title, "new"), set(pages, 1), set(weight, 1.0)), 5);
-}
-
 TEST_F(DatabaseTest, ATransactionHappensAsAWholeOrNotAtAll) {
   {
     auto transaction = database.begin();
@@ -107,13 +102,6 @@ TEST_F(DatabaseTest, ATransactionHappensAsAWholeOrNotAtAll) {
   EXPECT_EQ(database.count<Book>(), 2);
 }
 
-TEST_F(DatabaseTest, KnowsItsTables) {
-  EXPECT_TRUE(database.hasTable<Book>());
-  EXPECT_FALSE(database.hasTable<Shelf>());
-  EXPECT_FALSE(database.hasNoTables());
-  EXPECT_TRUE(Database::inMemory().hasNoTables());
-}
-
 TEST(DatabaseFile, ANumberThatTheMemberCannotHoldIsAnError) {
   const support::TemporaryFolder folder;
   Database database(folder / "books.db", 0ms);
@@ -125,21 +113,6 @@ TEST(DatabaseFile, ANumberThatTheMemberCannotHoldIsAnError) {
     FAIL() << "it was read";
   } catch (const database::Error& error) {
     EXPECT_EQ(error.fault(), database::Fault::mismatch) << error.what();
-  }
-}
-
-TEST(DatabaseFile, AWriterIsWaitedForOnlySoLong) {
-  const support::TemporaryFolder folder;
-  Database one(folder / "books.db", 50ms);
-  Database two(folder / "books.db", 50ms);
-  one.createTable<Book>();
-  const auto transaction = one.begin();
-  try {
-    const auto second = two.begin();
-    FAIL() << "two writers at once";
-  } catch (const database::Error& error) {
-    EXPECT_EQ(error.fault(), database::Fault::failed);
-    EXPECT_STREQ(error.what(), "database is locked");
   }
 }
 

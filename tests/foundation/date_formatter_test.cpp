@@ -36,10 +36,6 @@ TEST(DateFormatter, WritesWhatTheClocksOfTheZoneShow) {
     const char* at;
     const char* time;
   } rows[] = {
-      {"America/New_York", "en_US", "2024-05-17T13:05:00Z", "9:05\u202FAM"},
-      {"America/New_York", "en_US", "2024-05-17T04:00:00Z", "12:00\u202FAM"},
-      {"Europe/Berlin", "de_DE", "2024-05-17T19:10:00Z", "21:10"},
-      {"Europe/Helsinki", "fi_FI", "2024-05-17T06:05:00Z", "9.05"},
       // Egypt has summer time again since 2023: later than the zone rules that ICU carries.
       {"Africa/Cairo", "en_GB", "2024-05-17T09:00:00Z", "12:00"},
       {"America/Mexico_City", "en_GB", "2024-05-17T18:00:00Z", "12:00"},

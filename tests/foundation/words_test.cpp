@@ -38,15 +38,6 @@ TEST(Words, ComeFromTheCatalogueThatFitsBest) {
   EXPECT_EQ(Words::load(compiled, locale("pt"), "another-domain").localized("Bus"), "Bus");
 }
 
-TEST(Words, AreListedByKey) {
-  const Words words = Words::load(compiled, locale("pt_BR"));
-  std::vector<std::string> listed;
-  for (const auto& [key, text] : words.messages()) listed.push_back(std::string(key) + "=" + std::string(text));
-  EXPECT_EQ(listed,
-            (std::vector<std::string>{"%lld tasks=%lld tarefas", "Bus=Ônibus", "One book=Um livro", "Today=Hoje"}));
-  EXPECT_TRUE(Words().messages().empty());
-}
-
 TEST(CatalogueNames, AreOfTheLocalesScript) {
   using Names = std::vector<std::string>;
   const struct {

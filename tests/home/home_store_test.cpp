@@ -104,10 +104,10 @@ TEST(HomeStore, AgreesWithAPlainModelWhateverIsDone) {
       ids.erase(victim);
     } else {
       const auto id = ids[below(ids.size())];
-      const auto position = below(ids.size() + 2);
-      ASSERT_TRUE(store.move(id, static_cast<int>(position)));
+      const int position = static_cast<int>(below(ids.size() + 4)) - 2;
+      ASSERT_TRUE(store.move(id, position));
       std::erase(ids, id);
-      ids.insert(ids.begin() + static_cast<std::ptrdiff_t>(std::min(position, ids.size())), id);
+      ids.insert(ids.begin() + std::clamp(position, 0, static_cast<int>(ids.size())), id);
     }
     ASSERT_EQ(order(store.widgets()), expected()) << "step " << step;
   }

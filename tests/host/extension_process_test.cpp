@@ -56,29 +56,8 @@ TEST(ExtensionProcess, ExplainsEveryWayToFailAndLeavesNoProcess) {
     EXPECT_FALSE(hasChildren()) << each.kind;
     EXPECT_EQ(told(extension.ask(askFor("tasks"))), "2 entries") << "afresh after " << each.kind;
   }
+  EXPECT_EQ(told(fake().ask(askFor("flood"))), "2 entries");
   EXPECT_FALSE(hasChildren());
-}
-
-TEST(ExtensionProcess, AnswersOneRequestAfterAnother) {
-  auto extension = fake();
-  for (const char* kind : {"tasks", "empty", "flood", "tasks"}) {
-    EXPECT_EQ(told(extension.ask(askFor(kind))), std::string(kind) == "empty" ? "0 entries" : "2 entries");
-  }
-}
-
-TEST(ExtensionProcess, BringsThePictureWithItsBytes) {
-  auto extension = fake();
-  const auto reply = extension.ask({.world = {}, .request = messages::DrawEntry{.kind = "tasks", .family = "small"}});
-  ASSERT_TRUE(reply) << reply.error();
-  EXPECT_NE(std::get<messages::Picture>(*reply).bytes.find("\"small\""), std::string::npos);
-}
-
-TEST(ExtensionProcess, IsLetGoAndStartedAgain) {
-  auto extension = fake();
-  EXPECT_EQ(told(extension.ask(askFor("tasks"))), "2 entries");
-  extension.stop();
-  EXPECT_FALSE(hasChildren());
-  EXPECT_EQ(told(extension.ask(askFor("tasks"))), "2 entries");
 }
 
 TEST(ExtensionProcess, IsKilledWhenItDoesNotGo) {

@@ -27,14 +27,4 @@ TEST(TimelineListing, ShowsDatesOnTheWallClockAndMembersInBrief) {
       "policy: after 2026-11-22 00:00:00\n");
 }
 
-TEST(TimelineListing, OfNothingIsThePolicy) {
-  EXPECT_EQ(host::timelineListing({.policy = "atEnd"}, {}), "policy: atEnd\n");
-}
-
-TEST(TimelineJSON, HasKindPolicyAndEntries) {
-  EXPECT_EQ(host::timelineJSON({.kind = "Fake", .policy = "never", .entries = {{{"date", "x"}}}}),
-            "{\n  \"kind\": \"Fake\",\n  \"policy\": \"never\",\n  \"entries\": [\n    {\n      \"date\": \"x\"\n    "
-            "}\n  ]\n}\n");
-}
-
 }  // namespace

@@ -110,13 +110,6 @@ test('Changes of what is shown do not take the focus away', () => onHome(used, {
   assert.equal(await focused(page), 'Call grandma');
 }));
 
-test('What can be tapped is at least 24 points high and wide', () => onHome(used, { mock: { widgets: lively } }, async (page) => {
-  const small = await page.locator('#home :is(input, a, button), .head button, .card button, #lock :is(input, a)').evaluateAll((all) =>
-    all.map((one) => [one.getAttribute('aria-label') ?? one.textContent, one.offsetWidth, one.offsetHeight])
-      .filter(([, width, height]) => width > 0 && (width < 24 || height < 24)));
-  assert.deepEqual(small, []);
-}));
-
 for (const [name, window] of [
   ['a window of 320 pixels', { viewport: { width: 320, height: 640 } }],
   ['200 % zoom', { viewport: { width: 700, height: 475 }, deviceScaleFactor: 2 }],

@@ -6,14 +6,6 @@ const used = useBrowser();
 const said = (page) => page.locator('#said').textContent();
 const placed = (mock, place) => mock.home.place(place).map((widget) => widget.shortName);
 
-test('A widget that is added in the gallery stands at the end of its screen', () => onHome(used, {}, async (page, mock) => {
-  await page.getByRole('button', { name: 'Add widget' }).click();
-  await page.getByRole('button', { name: 'Add Quote of the Day, Medium' }).click();
-  await eventually(() => page.locator('#gallery-said').textContent(), 'Quote of the Day is on the home screen.');
-  await eventually(() => names(page), ['Tasks', 'Calendar', 'Mood Check-In', 'Quote of the Day']);
-  assert.deepEqual(placed(mock, 'home'), ['tasks', 'calendar', 'mood', 'quote']);
-}));
-
 test('A lock screen without room says so', () => onHome(used, {
   mock: { widgets: [['tasks', 'accessoryRectangular'], ['habits', 'accessoryRectangular']] },
 }, async (page, mock) => {

@@ -73,15 +73,6 @@ test('The clock goes by the host’s time, zone and language', () => onHome(used
   await eventually(() => page.locator('#status-time').textContent(), '10:06');
 }));
 
-test('Texts of the host replace the page’s own', () => onHome(used, {
-  mock: { words: { Edit: 'Bearbeiten', 'Remove %@': '%@ entfernen' }, locale: 'de_DE' },
-}, async (page) => {
-  await page.getByRole('button', { name: 'Bearbeiten' }).click();
-  await page.getByRole('button', { name: 'Tasks entfernen' }).waitFor();
-  assert.equal(await page.locator('html').getAttribute('lang'), 'de-DE');
-  assert.equal(await page.locator('#lock-date').textContent(), 'Samstag, 21. November');
-}));
-
 test('In a language from right to left the page is mirrored, and its own texts are of that language', () => onHome(used, {
   mock: { direction: 'rtl', locale: 'ar_EG', words: { Edit: 'تعديل', 'Add widget': 'إضافة أداة', Home: 'الرئيسية', 'Lock screen': 'شاشة القفل',
     'Move %@': 'نقل %@', '%1$@ moved to position %2$@ of %3$@': '%1$@: %2$@/%3$@' } },

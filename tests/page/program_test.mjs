@@ -1,12 +1,11 @@
 // The page with the program's own server behind it.
 import assert from 'node:assert/strict';
-import { existsSync } from 'node:fs';
-import { readFile, rename, rm, writeFile } from 'node:fs/promises';
+import { execFileSync } from 'node:child_process';
+import { readFile } from 'node:fs/promises';
 import { join } from 'node:path';
 import { test } from 'node:test';
-import { program } from './mock/mirune_pictures.mjs';
-import { assertAccessible, eventually, useBrowser, withPage } from './support/browser.mjs';
-import { Program } from './support/program.mjs';
+import { assertAccessible, eventually, names, useBrowser, withPage } from './support/browser.mjs';
+import { Program, program } from './support/program.mjs';
 
 const used = useBrowser();
 const skip = program ? false : 'the program is not built';
@@ -23,9 +22,6 @@ async function onProgram(options, steps) {
 
 const tasks = (page) => page.locator('#home .widget').filter({ has: page.getByText('Tasks', { exact: true }) }).first();
 const labels = (page) => tasks(page).locator('.tick').evaluateAll((ticks) => ticks.map((tick) => tick.getAttribute('aria-label')));
-const pictureOf = (page, name) => page.locator('#home .widget', { has: page.getByText(name, { exact: true }) }).first()
-  .locator('img').getAttribute('data-picture');
-
 test('All widgets of the first start are drawn, and a tick is recorded in both files', { skip }, () => onProgram([], async (page, host) => {
   await eventually(() => page.locator('#home .widget img').count(), 8);
   await eventually(async () => (await labels(page)).length, 3);
@@ -39,36 +35,55 @@ test('All widgets of the first start are drawn, and a tick is recorded in both f
   await assertAccessible(page, 'home');
 }));
 
-test('Midnight passes', { skip }, () => onProgram(['--now', '2026-11-20T22:55:00Z', '--speed', '15'], async (page) => {
-  await eventually(async () => typeof await pictureOf(page, 'Calendar'), 'string');
-  const before = await pictureOf(page, 'Calendar');
-  await page.waitForFunction((old) => [...document.querySelectorAll('#home .widget')]
-    .find((one) => one.textContent.includes('Calendar')).querySelector('img').dataset.picture !== old, before);
+test('A widget is placed, drawn, moved, seen at another time, and removed', { skip }, () => onProgram([], async (page) => {
+  const before = await names(page);
+  await page.locator('#add').click();
+  await page.locator('#gallery [aria-labelledby="kind-tasks"] [data-family="systemSmall"] button').click();
+  await eventually(async () => (await names(page)).length, before.length + 1);
+  await page.keyboard.press('Escape');
+  const id = await page.locator('#home .widget').last().getAttribute('data-id');
+  const own = page.locator(`[data-id="${id}"]`);
+  await own.locator('img').waitFor();
+  assert.deepEqual(await own.locator('img').evaluate((one) => [one.naturalWidth, one.offsetWidth]), [158, 158]);
+
+  await page.locator('#edit').click();
+  await own.locator('.handle').press('Home');
+  const first = () => page.locator('#home .widget').first().getAttribute('data-id');
+  await eventually(first, id);
+  await page.reload();
+  await own.waitFor();
+  assert.equal(await first(), id, 'the order is kept');
+
+  await page.locator('#slider').press('End');
+  await page.waitForFunction(() => document.querySelector('#away').textContent);
+  await own.locator('img').waitFor();
+  assert.equal(await own.locator('a[href]').count(), 0);
+  await page.locator('#now').click();
+  await page.locator('#why summary').click();
+  await page.locator('#why-content h4').first().waitFor();
+  await assertAccessible(page, 'home');
+
+  await page.locator('#edit').click();
+  await own.locator('.remove').click();
+  await eventually(() => names(page), before);
 }));
 
-test('A widget whose extension is ended keeps its picture and goes on', { skip }, () => onProgram([], async (page, host) => {
-  await eventually(() => page.locator('#home .widget img').count(), 8);
-  for (let round = 0; round < 5; round += 1) {
-    const killed = host.killExtension();
-    const file = join(host.container, 'tasks.json');
-    await writeFile(file, (await readFile(file, 'utf8')).replace(/Call [a-z0-9 ]+/, `Call number ${round}`));
-    await killed;
-    await eventually(async () => (await labels(page)).some((label) => label === `Call number ${round}`), true);
-    assert.equal(await page.locator('#home .widget img').count(), 8);
+test('The mark of a tapped box covers the box in the picture', { skip }, () => onProgram(['--now', '2026-11-21T09:00:00Z'], async (page, host) => {
+  for (const [name, kind, family] of [['Tasks', 'tasks', 'systemSmall'], ['Events and Tasks', 'combined', 'systemMedium']]) {
+    const widget = page.getByRole('article', { name, exact: true }).first();
+    await widget.locator('.tick').first().waitFor();
+    const marks = await widget.locator('.tick').evaluateAll((ticks) => ticks.map((tick) => {
+      tick.classList.add('waiting');
+      const mark = getComputedStyle(tick, '::before');
+      return [tick.offsetLeft + parseFloat(mark.left), tick.offsetTop + parseFloat(mark.top) + parseFloat(mark.height) / 2, parseFloat(mark.width)];
+    }));
+    const file = join(host.folder, `${kind}.json`);
+    execFileSync(program, ['render', kind, family, '-o', file, '--container', host.container, '--timezone', 'Europe/Berlin', '--now', '2026-11-21T09:00:00Z']);
+    const boxes = JSON.parse(await readFile(file, 'utf8')).drawn.filter(({ shape, stroke }) => shape === 'roundedRectangle' && stroke)
+      .map(({ frame: [x, y, width, height] }) => [x, y + height / 2, width]);
+    assert.equal(marks.length, boxes.length, kind);
+    marks.flat().forEach((value, i) => assert.ok(Math.abs(value - boxes.flat()[i]) <= 1, `${kind}: ${marks} for ${boxes}`));
   }
-  assert.equal(host.server.exitCode, null);
-}));
-
-test('A container that is replaced is shown, one that is gone leaves empty lists', { skip }, () => onProgram([], async (page, host) => {
-  await eventually(async () => (await labels(page)).length, 3);
-  await rename(host.container, `${host.container}-old`);
-  await eventually(async () => (await labels(page)).length, 0);
-  assert.equal(await page.locator('#home .widget img').count(), 8);
-  await rename(`${host.container}-old`, host.container);
-  await eventually(async () => (await labels(page)).length, 3);
-  await rm(join(host.container, 'tasks.json'));
-  assert.equal(existsSync(join(host.container, 'tasks.json')), false);
-  await eventually(async () => (await labels(page)).length, 2); // those of every day
 }));
 
 test('The page speaks the host’s language', { skip }, () => onProgram(['--locale', 'he_IL'], async (page) => {

@@ -61,29 +61,6 @@ TEST_F(BadInput, IsAnsweredInOneLine) {
   EXPECT_EQ(files(), std::vector<std::string>{"container"});
 }
 
-TEST_F(BadInput, NamesTheWorldThatIsUnknown) {
-  const struct {
-    World changed;
-    const char* says;
-    const char* lists;
-  } rows[] = {
-      {{.timeZone = "Europe/Nowhere"}, "time zone 'Europe/Nowhere'", "Europe/Berlin"},
-      {{.timeZone = "../../etc/passwd"}, "time zone", "UTC"},
-      {{.locale = "xx_YY"}, "locale 'xx_YY'", "de_DE"},
-      {{.now = "yesterday"}, "'yesterday'", "2026-11-21T08:00:00Z"},
-  };
-  for (const auto& row : rows) {
-    for (const std::string command : {"gallery", "timeline tasks", "render tasks systemSmall -o a.png"}) {
-      const auto result = run(folder.path(), command + row.changed.options());
-      EXPECT_EQ(result.exitCode, 2) << command;
-      ASSERT_EQ(result.complaints.size(), 1U) << command;
-      EXPECT_NE(result.complaints[0].find(row.says), std::string::npos) << result.complaints[0];
-      EXPECT_NE(result.complaints[0].find(row.lists), std::string::npos) << result.complaints[0];
-    }
-  }
-  EXPECT_EQ(files(), std::vector<std::string>());
-}
-
 TEST_F(BadInput, LeavesNoHalfWrittenFile) {
   std::filesystem::create_directories(folder / "a.png");
   const auto result = ask("render tasks systemSmall -o a.png");

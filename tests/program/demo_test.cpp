@@ -12,6 +12,8 @@ TEST(DemoCommand, FillsTheWidgets) {
     const auto timeline = jsonOutput(run(folder.path(), "timeline " + kind + " --json" + world.options()));
     EXPECT_GT(timeline.at("entries").at(0).at("count"), 0) << kind;
   }
+  const auto doctor = run(folder.path(), "doctor" + world.options());
+  EXPECT_EQ(doctor.exitCode, 0) << doctor.output;
 }
 
 TEST(DemoCommand, SetsThePlannersTheme) {

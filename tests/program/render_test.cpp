@@ -27,17 +27,6 @@ class RenderCommand : public testing::Test {
   const World world;
 };
 
-TEST_F(RenderCommand, WritesAPictureOfThatManyPixels) {
-  const std::string picture = drawn("a.png", "--scale 3");
-  ASSERT_GT(picture.size(), 24U);
-  EXPECT_EQ(picture.substr(0, 8), "\x89PNG\r\n\x1A\n");
-  const auto numberAt = [&](std::size_t place) {
-    return static_cast<unsigned char>(picture[place]) << 8 | static_cast<unsigned char>(picture[place + 1]);
-  };
-  EXPECT_EQ(numberAt(18), 3 * 158);
-  EXPECT_EQ(numberAt(22), 3 * 158);
-}
-
 TEST_F(RenderCommand, WritesWhatAWidgetSays) {
   EXPECT_EQ(drawn("a.txt"), "Tasks\nSaturday, November 21\n[ ] Buy milk\n[ ] Call Grandma\n[ ] Water <b>plants</b>\n");
   EXPECT_EQ(drawn("b.txt", "--at 2026-11-22T12:00:00Z"), "Tasks\nSunday, November 22\n[ ] Rest\n");
@@ -59,12 +48,6 @@ TEST_F(RenderCommand, WritesThePlacedTree) {
   EXPECT_EQ(row.at("date"), "2026-11-20T23:00:00Z");
 }
 
-TEST_F(RenderCommand, GivesTheSameBytesForTheSameRequest) {
-  for (const std::string ending : {".png", ".json", ".txt"}) {
-    EXPECT_EQ(drawn("first" + ending), drawn("second" + ending)) << ending;
-  }
-}
-
 TEST_F(RenderCommand, TakesEveryScaleThatItOffers) {
   for (const std::string scale : {"0.1", "10"}) EXPECT_NE(drawn("a.png", "--scale " + scale), "") << scale;
   for (const std::string scale : {"0.09", "10.1", "0", "-1", "nan", "inf"}) {
@@ -74,22 +57,6 @@ TEST_F(RenderCommand, TakesEveryScaleThatItOffers) {
     EXPECT_EQ(result.debugLines, std::vector<std::string>()) << "nothing is asked for it";
   }
   EXPECT_FALSE(std::filesystem::exists(folder / "b.png"));
-}
-
-TEST(RenderedMoods, LeadToThePlanner) {
-  const support::TemporaryFolder folder;
-  const auto documentOf = [&](const std::string& widget) {
-    const auto result =
-        run(folder.path(), "render " + widget + " -o out.json --planner-url mirune://open/" + World().options());
-    EXPECT_EQ(result.exitCode, 0) << widget;
-    return nlohmann::json::parse(support::readBytes(folder / "out.json"), nullptr, false);
-  };
-  EXPECT_EQ(documentOf("mood systemSmall").at("url"), "mirune://open/mood/0");
-  EXPECT_EQ(documentOf("moods systemLarge").at("url"), "mirune://open/moodchart");
-  const auto medium = documentOf("mood systemMedium");
-  EXPECT_FALSE(medium.contains("url"));
-  EXPECT_EQ(medium.at("meaning").back().at("role"), "link");
-  EXPECT_EQ(medium.at("meaning").back().at("url"), "mirune://open/mood/0");
 }
 
 }  // namespace

@@ -49,13 +49,6 @@ TEST(TimelineCommand, PrintsWhatWasRecorded) {
   }
 }
 
-TEST(TimelineCommand, SaysWhenTheMoodWidgetsAskAgain) {
-  const support::TemporaryFolder folder;
-  const auto timeline = jsonOutput(run(folder.path(), "timeline moods --json" + World().options()));
-  EXPECT_EQ(timeline.at("policy"), nlohmann::json({{"after", "2026-11-21T23:00:00Z"}}));
-  EXPECT_EQ(timeline.at("entries").size(), 1U);
-}
-
 TEST(TimelineCommand, PassesDebugLinesOn) {
   const support::TemporaryFolder folder;
   const auto result = run(folder.path(), "timeline tasks" + World().options());

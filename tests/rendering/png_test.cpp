@@ -81,15 +81,6 @@ TEST(PNG, IsCutToTheOutline) {
   EXPECT_EQ(pixels.at(40, 0), (Pixel{255, 0, 0, 255}));
 }
 
-TEST(PNG, IsTheSameOnEveryRun) {
-  const View shown =
-      vstack({}, {text("Water the ferns").font(swiftui::system(13, FontWeight::medium, FontDesign::rounded)),
-                  text("😀 מים"), coloured(filled(RoundedRectangle{.cornerRadius = 3}), halfBlue)});
-  const std::string first = drawnFile(shown, {80, 60}, 3, 8);
-  EXPECT_GT(first.size(), 500U);
-  EXPECT_TRUE(first == drawnFile(shown, {80, 60}, 3, 8));
-}
-
 TEST(PNG, SetsTheBaselineWhereLayoutPutIt) {
   // The bottom of an "H" stands on the baseline, at 11.5 points of a line of 12 point letters, its top a capital height
   // above.

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
 #include <vector>
 
 #include "schedule/virtual_host.hpp"
@@ -46,21 +45,6 @@ TEST(EntryDates, TellWhatIsShownAndWhatComesNext) {
     const EntryDates entries(dates);
     EXPECT_EQ(entries.shown(at(moment)), shown) << name;
     EXPECT_EQ(entries.next(at(moment)), at(next)) << name;
-  }
-}
-
-TEST(EntryDates, AnswerForThousandsAsASearchThroughAllWould) {
-  std::mt19937 random(20261121);
-  for (const int span : {100, 5000, 10'000'000}) {
-    std::uniform_int_distribution<int> second(0, span);
-    std::vector<foundation::Date> dates(5000);
-    for (auto& date : dates) date = at(second(random));
-    const EntryDates entries(dates);
-    EXPECT_EQ(entries.last(), *std::ranges::max_element(dates));
-    for (int k = 0; k < 500; ++k) {
-      const auto moment = at(second(random) - span / 100);
-      EXPECT_EQ(entries.shown(moment)->index, *shownBySearch(dates, moment)) << moment.time_since_epoch().count();
-    }
   }
 }
 

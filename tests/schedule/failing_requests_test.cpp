@@ -59,17 +59,6 @@ TEST(FailingRequests, EndWithTheFirstSuccess) {
   EXPECT_EQ(widget.pauses(asked), (std::vector<long>{1, 2})) << "the count begins anew";
 }
 
-TEST(FailingRequests, KeepWhatIsShownAndItsChanges) {
-  Breakable widget;
-  widget.isBroken = false;
-  widget.host.runFor(hours(1));
-  widget.isBroken = true;
-  widget.host.look = [&](Date now, Date shown) { EXPECT_EQ(shown, widget.host.calendar().startOfDay(now)); };
-  widget.host.happen(OutsideEvent::files);
-  widget.host.runFor(hours(24) * 10);
-  EXPECT_EQ(widget.host.changes(), 10);
-}
-
 TEST(FailingRequests, AreSentAtOnceForWhatHappensOutsideWithoutShorterPauses) {
   Breakable widget;
   widget.host.runFor(seconds(20));  // five have failed, the next pause is 16 s

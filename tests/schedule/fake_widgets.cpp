@@ -31,14 +31,6 @@ FakeWidget eventsWidget() {
   };
 }
 
-FakeWidget calendarWidget() {
-  return [](Date now, const Calendar& calendar) {
-    FakeTimeline timeline{.dates = {now}};
-    for (int k = 1; k <= 4; ++k) timeline.dates.push_back(dayAfter(calendar, calendar.startOfDay(now), k));
-    return timeline;
-  };
-}
-
 FakeWidget moodWidget() {
   return [](Date now, const Calendar& calendar) {
     const auto due = calendar.startOfDay(now) + std::chrono::seconds(86400);

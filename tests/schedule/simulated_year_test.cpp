@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <set>
-
 #include "foundation/iso8601.hpp"
 #include "schedule/fake_widgets.hpp"
 
@@ -50,8 +48,6 @@ TEST(SimulatedYear, ShowsTodayAndAsksNoMoreThanTheWidgetsWant) {
   };
   const Widget widgets[] = {
       {"tasks", dailyWidget(15), isToday, [](const Year&) { return 27; }, 1},      // every 14 days
-      {"quote", dailyWidget(30), isToday, [](const Year&) { return 13; }, 1},      // every 29 days
-      {"calendar", calendarWidget(), isToday, [](const Year&) { return 92; }, 1},  // every 4 days
       {"events", eventsWidget(), isToday, [](const Year&) { return 1 + 26; }, 9},  // every 14 days, at the last event
       {"mood", moodWidget(), isTodayOrADayLong,                                    // every day, and at 23:00 on one
        [](const Year& year) { return 1 + year.midnights + year.longDays; }, 0},    // of 25 hours
@@ -72,63 +68,6 @@ TEST(SimulatedYear, ShowsTodayAndAsksNoMoreThanTheWidgetsWant) {
       if (HasFailure()) return;
     }
   }
-}
-
-TEST(SimulatedYear, KeepsToEveryPolicy) {
-  struct Case {
-    const char* name;
-    FakeWidget widget;
-    int requests;
-    std::set<RequestReason> reasons;
-  };
-  const auto timeline = [](std::vector<int> minutes, auto policy) -> FakeWidget {
-    return [=](Date now, const Calendar&) {
-      FakeTimeline result{.policy = policy(now)};
-      for (const int minute : minutes) result.dates.push_back(now + std::chrono::minutes(minute));
-      return result;
-    };
-  };
-  const auto never = [](Date) { return Never{}; };
-  const auto atEnd = [](Date) { return AtEnd{}; };
-  const auto after = [](std::chrono::minutes time) { return [=](Date now) { return After{.date = now + time}; }; };
-  constexpr int days = 365;
-  using enum RequestReason;
-  const Case cases[] = {
-      {"never", timeline({0, 10, 5}, never), 1, {first}},
-      {"never, empty", timeline({}, never), 1, {first}},
-      {"at the end, a day", timeline({0, 1440, 10, 10}, atEnd), days, {first, endReached}},
-      {"at the end, a quarter of an hour", timeline({15}, atEnd), days * 96 - 40, {first, endReached}},
-      {"at the end, only now", timeline({0}, atEnd), days, {first, nextMidnight}},
-      {"at the end, only past", timeline({-9000, -5}, atEnd), days, {first, nextMidnight}},
-      {"at the end, empty", timeline({}, atEnd), days, {first, nextMidnight}},
-      {"an hour later", timeline({0, 90}, after(hours(1))), days * 24 - 10, {first, dateNamed}},
-      {"a year later", timeline({0}, after(hours(365 * 24))), 1, {first}},
-      {"now", timeline({0, 90}, after({})), days, {first, nextMidnight}},
-      {"a year ago, empty", timeline({}, after(-hours(365 * 24))), days, {first, nextMidnight}},
-  };
-  for (const auto& [name, widget, requests, reasons] : cases) {
-    SCOPED_TRACE(name);
-    const Year& year = years[0];
-    VirtualHost host(widget, calendarIn(year.zone), moment(year.start));
-    host.runUntil(moment(year.end));
-    EXPECT_EQ(host.sent().size(), requests);
-    EXPECT_LE(host.wakes(), host.changes() + requests);
-    std::set<RequestReason> met;
-    for (const auto& sent : host.sent()) met.insert(sent.reason);
-    EXPECT_EQ(met, reasons);
-  }
-}
-
-TEST(SimulatedYear, AsksTheMoodWidgetTwiceOnADayOf25Hours) {
-  VirtualHost host(moodWidget(), calendarIn("Europe/Berlin"), moment("2026-10-24T10:00:00Z"));
-  host.runUntil(moment("2026-10-27T00:00:00Z"));
-  using enum RequestReason;
-  const std::vector<Sent> expected = {{moment("2026-10-24T10:00:00Z"), first},
-                                      {moment("2026-10-24T22:00:00Z"), dateNamed},     // midnight
-                                      {moment("2026-10-25T22:00:00Z"), dateNamed},     // 23:00
-                                      {moment("2026-10-25T23:00:00Z"), nextMidnight},  // midnight
-                                      {moment("2026-10-26T23:00:00Z"), dateNamed}};
-  EXPECT_EQ(host.sent(), expected);
 }
 
 }  // namespace

@@ -72,19 +72,6 @@ TEST(UnsteadyClock, LeavesWhatIsDueBeforeMidnightWhenItWasPutBack) {
   EXPECT_EQ(host.sent().size(), 2);
 }
 
-TEST(UnsteadyClock, SleepOverMidnightIsAStepForth) {
-  auto host = tasksHost();
-  host.setClock(moment("2026-11-22T06:00:00Z"));
-  EXPECT_EQ(host.decision().shown, ShownEntry{1});
-  EXPECT_EQ(host.sent().size(), 1);
-
-  VirtualHost mood(moodWidget(), calendarIn("Europe/Berlin"), start);
-  mood.runUntil(moment("2026-11-21T21:00:00Z"));
-  mood.setClock(moment("2026-11-22T06:00:00Z"));
-  mood.runFor(hours(12));
-  EXPECT_EQ(mood.sent().size(), 2);
-}
-
 TEST(UnsteadyClock, AnotherZoneAsksOnceAndHasItsOwnMidnights) {
   auto host = tasksHost();
   host.moveTo(calendarIn("Pacific/Auckland"));  // 00:00 on the 22nd there
@@ -148,7 +135,6 @@ TEST(UnsteadyClock, NeverMakesItAskInCirclesNorShowAnotherDayForLong) {
   };
   const Widget widgets[] = {
       {"tasks", dailyWidget(15), days(13)},
-      {"calendar", calendarWidget(), days(3)},
       {"events", eventsWidget(), days(13)},
       {"mood", moodWidget(), hours(12)},  // twice on a day of 25 hours
   };

@@ -15,19 +15,27 @@ struct ProgramRun {
   std::string error = {};
 };
 
-/// Runs the program with its own extension, on the container "container" of the folder, in Berlin on the morning of
-/// 2026-11-21. Arguments are as for a shell.
-inline ProgramRun runMirune(const TemporaryFolder& folder, const std::string& arguments) {
-  const std::string path = folder.path().string();
-  const std::string command = "cd " + path +
-                              " && env -u HOME -u XDG_DATA_HOME -u LANGUAGE -u LC_ALL -u LC_MESSAGES LANG=en_US.UTF-8 "
-                              "TZ=Europe/Berlin MIRUNE_CONTAINER=" +
-                              path + "/container MIRUNE_EXTENSION=" MIRUNE_EXTENSION " " MIRUNE_PROGRAM " " +
-                              arguments + " --now 2026-11-21T08:00:00Z >output 2>error";
+/// Runs the program in a folder, in Berlin, with the given variables and no language of its own. Arguments and where
+/// the output goes are as for a shell.
+inline ProgramRun runIn(const TemporaryFolder& folder, const std::string& variables, const std::string& arguments,
+                        const std::string& redirection = ">output") {
+  const std::string command = "cd " + folder.path().string() +
+                              " && env -u HOME -u XDG_DATA_HOME -u MIRUNE_CONTAINER -u LANGUAGE -u LC_ALL "
+                              "-u LC_MESSAGES TZ=Europe/Berlin " +
+                              variables + " " MIRUNE_PROGRAM " " + arguments + " 2>error " + redirection;
   const int status = std::system(command.c_str());
   return {.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1,
           .output = readBytes(folder / "output"),
           .error = readBytes(folder / "error")};
 }
+
+#ifdef MIRUNE_EXTENSION
+/// Runs it with its own extension, on the container "container" of the folder, on the morning of 2026-11-21.
+inline ProgramRun runMirune(const TemporaryFolder& folder, const std::string& arguments) {
+  const std::string container = (folder / "container").string();
+  return runIn(folder, "LANG=en_US.UTF-8 MIRUNE_EXTENSION=" MIRUNE_EXTENSION " MIRUNE_CONTAINER=" + container,
+               arguments + " --now 2026-11-21T08:00:00Z");
+}
+#endif
 
 }  // namespace support

@@ -5,20 +5,6 @@
 namespace swiftui {
 namespace {
 
-struct Greeting {
-  std::string name;
-
-  View body(const EnvironmentValues& environment) const {
-    return text((environment.colorScheme == ColorScheme::dark ? "night, " : "day, ") + name);
-  }
-};
-
-struct TickStyle {
-  View makeBody(const ToggleStyleConfiguration& configuration) const {
-    return hstack({.spacing = 0}, {text(configuration.isOn ? "x" : "o"), configuration.label});
-  }
-};
-
 TextElement resolvedText(const View& view, const EnvironmentValues& environment = {}) {
   const ResolvedWidget widget = resolve(view, environment);
   const auto* element = std::get_if<TextElement>(&widget.content.value);
@@ -66,11 +52,6 @@ TEST(Resolving, TakesSystemColoursFromTheSchemeAround) {
   EXPECT_EQ(resolvedText(text("a"), {.colorScheme = ColorScheme::dark}).paint.color, (uikit::RGBA{1, 1, 1, 1}));
 }
 
-TEST(Resolving, AsksComponentsForTheirBodiesInTheEnvironmentAroundThem) {
-  EXPECT_EQ(resolvedText(Greeting{"Ada"}).content, "day, Ada");
-  EXPECT_EQ(resolvedText(View(Greeting{"Ada"}).colorScheme(ColorScheme::dark)).content, "night, Ada");
-}
-
 TEST(Resolving, SplicesGroupsIntoTheirStack) {
   const View column = vstack({.spacing = 1}, {group({text("a"), emptyView(), group({text("b")})}),
                                               when(false, text("c")), when(true, text("d"))});
@@ -86,20 +67,6 @@ zstack (0,0) 22x12
     text "a" (6,1) 10x10
   padding (0,0) 22x12
     text "bc" (1,1) 20x10
-)");
-}
-
-TEST(Toggle, IsDrawnByTheStyleAroundIt) {
-  const View box = toggle({.isOn = true}, text("milk"));
-  EXPECT_EQ(laidOut(box.toggleStyle(TickStyle{}), {50, 10}), R"(
-toggle (0,0) 50x10
-  hstack (0,0) 50x10
-    text "x" (0,0) 10x10
-    text "milk" (10,0) 40x10
-)");
-  EXPECT_EQ(laidOut(box, {50, 10}), R"(
-toggle (5,0) 40x10
-  text "milk" (5,0) 40x10
 )");
 }
 

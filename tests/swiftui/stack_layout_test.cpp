@@ -131,11 +131,6 @@ TEST(Stack, IsEmptyWithoutChildren) {
   EXPECT_EQ(answered(vstack({}, {emptyView(), group({})}), {.width = 100, .height = 100}), (Size{0, 0}));
 }
 
-TEST(Stack, HasNoNegativeLengthWhateverItsSpacing) {
-  const Size size = answered(hstack({.spacing = -50}, {block(10, 10), block(10, 10)}), {.width = 100, .height = 10});
-  EXPECT_EQ(size, (Size{0, 10}));
-}
-
 TEST(Spacer, TakesWhatTheOthersLeave) {
   const struct {
     const char* what;

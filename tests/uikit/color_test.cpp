@@ -12,20 +12,5 @@ TEST(Color, PrintsAsHexText) {
   EXPECT_EQ(hexText({.red = 1.5, .green = -1}), "#FF0000");
 }
 
-TEST(SystemColor, FollowsTheColourScheme) {
-  const struct {
-    SystemColor color;
-    const char* light;
-    const char* dark;
-  } rows[] = {{SystemColor::label, "#000000", "#FFFFFF"},
-              {SystemColor::gray, "#8E8E93", "#8E8E93"},
-              {SystemColor::pink, "#FF2D55", "#FF375F"}};
-  for (const auto& row : rows) {
-    EXPECT_EQ(hexText(resolve(row.color, ColorScheme::light)), row.light);
-    EXPECT_EQ(hexText(resolve(row.color, ColorScheme::dark)), row.dark);
-  }
-  EXPECT_EQ(resolve(RGBA{.red = 1}, ColorScheme::dark), RGBA{.red = 1});
-}
-
 }  // namespace
 }  // namespace uikit

@@ -168,25 +168,5 @@ TEST(ExtensionService, SaysWhyItDoesNotAnswer) {
   }
 }
 
-TEST(ExtensionService, PerformsIntents) {
-  EXPECT_TRUE(std::holds_alternative<messages::Done>(
-      answered(messages::PerformIntent{.intent = "Wind", .parameters = {{"turns", 3}}})));
-}
-
-TEST(ExtensionService, NamesDevices) {
-  const auto named = [](const messages::NameDevice& request) {
-    return std::get<messages::DeviceName>(answered(request)).name;
-  };
-  EXPECT_EQ(named({}), "this clock");
-  EXPECT_EQ(named({.identifier = "old"}), "old clock");
-}
-
-TEST(ExtensionService, RefusesAWorldThatIsNone) {
-  World nowhere = world;
-  nowhere.timeZone = "Middle/Earth";
-  const auto failure = std::get<Failure>(answered(messages::DescribeCatalogue{}, nowhere));
-  EXPECT_EQ(failure.reason, Failure::Reason::usage);
-}
-
 }  // namespace
 }  // namespace widgetkit

@@ -105,7 +105,10 @@ void expectReadable(const std::string& name, const rendering::Scene& scene, int 
 TEST(Contrast, OfTextsOnPaperIsEnough) {
   for (const int theme : {0, 1}) {
     FilledPlanner planner(theme);
-    for (const auto& [name, family, scene] : everyWidget(planner.platform())) {
+    auto platform = planner.platform();
+    // The planner's theme decides, not the system's.
+    platform.appearance = theme == 1 ? uikit::ColorScheme::light : uikit::ColorScheme::dark;
+    for (const auto& [name, family, scene] : everyWidget(platform)) {
       if (!swiftui::isAccessory(family)) expectReadable(name, scene, theme);
     }
   }

@@ -33,7 +33,7 @@ TEST(MoodChart, FitsEveryMonthOnEveryScreen) {
         const double margin = family == WidgetFamily::systemSmall ? 10 : 16;
 
         const auto moods = moodScene("moods", moodEntryOf(days, someMood()), family, platformOn(screen));
-        expectWithin(moods, margin);
+        expectWholeWithin(moods, margin);
         const auto grounds = having(drawnBy(moods), "name", "moodbgnew");
         EXPECT_EQ(rowsOf(grounds), rows);
         if (side == 0) side = sideOf(grounds);
@@ -42,7 +42,7 @@ TEST(MoodChart, FitsEveryMonthOnEveryScreen) {
         EXPECT_NEAR(sideOf(having(drawnBy(moods), "name", "cat-circle_calm")), side - 8, 0.02);
 
         const auto numbers = moodScene("moods", moodEntryOf(days, {}, -1), family, platformOn(screen));
-        expectWithin(numbers, margin);
+        expectWholeWithin(numbers, margin);
         const auto cells = having(drawnBy(numbers), "draw", "shape");
         EXPECT_EQ(rowsOf(cells), rows);
         EXPECT_NEAR(sideOf(cells), side, 0.02);

@@ -37,18 +37,10 @@ inline uikit::Platform platformOn(const std::string& screen) {
   return platform;
 }
 
-inline void expectWithin(const rendering::Scene& scene, double margin) {
-  for (const auto& drawn : drawnBy(scene)) {
-    if (drawn.value("name", "") == "paper1new_widget") continue;
-    const auto& frame = drawn.at("frame");
-    const double x = frame.at(0);
-    const double y = frame.at(1);
-    EXPECT_GE(x, margin - 0.01) << drawn;
-    EXPECT_GE(y, margin - 0.01) << drawn;
-    EXPECT_LE(x + frame.at(2).get<double>(), scene.size.width - margin + 0.01) << drawn;
-    EXPECT_LE(y + frame.at(3).get<double>(), scene.size.height - margin + 0.01) << drawn;
-    EXPECT_EQ(drawn.value("text", "").find("…"), std::string::npos) << drawn;
-  }
+/// The same, with every text whole.
+inline void expectWholeWithin(const rendering::Scene& scene, double margin) {
+  expectWithin(scene, margin);
+  for (const auto& text : textsOf(scene)) EXPECT_EQ(text.find("…"), std::string::npos) << text;
 }
 
 /// That things are squares of one size, and how long their sides are.

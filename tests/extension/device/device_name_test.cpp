@@ -5,7 +5,6 @@
 #include <set>
 
 #include "device/device_models.hpp"
-#include "device/ui_device.hpp"
 
 namespace mirune {
 namespace {
@@ -50,33 +49,6 @@ TEST(DeviceName, TellsWhichModelASimulatorPlays) {
       {"x86_64", "x86_64", "Simulator x86_64"},
   };
   for (const auto& row : rows) EXPECT_EQ(deviceName(row.identifier, row.simulated), row.name);
-}
-
-TEST(DeviceName, ReadsAsItsModelIsSold) {
-  const std::pair<const char*, const char*> rows[] = {
-      {"iPod9,1", "iPod touch (7th generation)"},
-      {"iPhone7,1", "iPhone 6 Plus"},
-      {"iPhone9,4", "iPhone 7 Plus"},
-      {"iPhone10,6", "iPhone X"},
-      {"iPhone11,6", "iPhone XS Max"},
-      {"iPhone14,3", "iPhone 13 Pro Max"},
-      {"iPhone14,6", "iPhone SE (3rd generation)"},
-      {"iPhone15,2", "iPhone 14 Pro"},
-      {"iPad4,6", "iPad mini 2"},
-      {"iPad7,12", "iPad (7th generation)"},
-      {"iPad8,10", "iPad Pro (11-inch) (2nd generation)"},
-      {"iPad13,1", "iPad Air (4th generation)"},
-      {"iPad13,11", "iPad Pro (12.9-inch) (5th generation)"},
-      {"iPad13,19", "iPad (10th generation)"},
-      {"AppleTV6,2", "Apple TV 4K"},
-      {"AudioAccessory5,1", "HomePod mini"},
-  };
-  for (const auto& [identifier, name] : rows) EXPECT_EQ(deviceName(identifier, std::nullopt), name);
-}
-
-TEST(UIDevice, KeepsItsName) {
-  EXPECT_FALSE(UIDevice::modelName().empty());
-  EXPECT_EQ(&UIDevice::modelName(), &UIDevice::modelName());
 }
 
 }  // namespace

@@ -2,21 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
-#include "catalogue/widgets_bundle.hpp"
-#include "drawing.hpp"
 #include "lists/thoughts.hpp"
 #include "styling/fonts.hpp"
 #include "timelines/entry_coding.hpp"
 #include "timelines/thought_of_the_day.hpp"
-#include "widgetkit/widget_drawing.hpp"
+#include "widget_scene.hpp"
 
 namespace mirune {
 namespace {
 
 using nlohmann::json;
-using swiftui::WidgetFamily;
 using uikit::ColorScheme;
 using Texts = std::vector<std::string>;
 
@@ -24,10 +19,7 @@ constexpr double padding = 16;
 
 /// The quote widget as the host has it drawn.
 rendering::Scene sceneOfWidget(const uikit::Platform& platform) {
-  const auto widgets = Mirune_WidgetsColl(MIRUNE_SHARE).body(platform);
-  const auto quote = std::ranges::find(widgets, "quote", [](const auto& widget) { return widget.shortName(); });
-  return widgetkit::sceneOf(*quote, WidgetFamily::systemMedium, foundation::JSON(SimpleEntry{}), platform, 2,
-                            realRenderer());
+  return widgetScene("quote", foundation::JSON(SimpleEntry{}), swiftui::WidgetFamily::systemMedium, platform);
 }
 
 json quoteOf(const rendering::Scene& scene) {

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "planner.hpp"
-#include "shared/item_files.hpp"
 
 namespace mirune {
 namespace {
@@ -34,15 +33,6 @@ TEST(GroupDataManager, PrintsALineForEachReadThatFails) {
   EXPECT_EQ(GroupDataManager::read(platformAt({}, container, &log), "tasks"), std::nullopt);
   EXPECT_EQ(GroupDataManager::read(platformAt({}, container, &log), "habits"), std::nullopt) << "a folder";
   EXPECT_EQ(log, Lines(2, line));
-}
-
-TEST(ItemFiles, AreEmptyAndSilentWhereTheyDoNotDecode) {
-  Planner planner;
-  auto broken = item(2);
-  broken.erase("calid");
-  planner.write("tasks.json", {{"2026/11/21", {item(1)}}, {"2026/11/22", {broken}}});
-  EXPECT_EQ(readItemFile(planner.platform(), "tasks"), ItemFile());
-  EXPECT_EQ(planner.log, Lines());
 }
 
 }  // namespace

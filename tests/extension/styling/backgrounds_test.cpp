@@ -50,17 +50,5 @@ TEST(Backgrounds, ShowThePaperInThePlannersTheme) {
   }
 }
 
-TEST(Backgrounds, ClearTheLockScreens) {
-  for (const int version : {16, 17}) {
-    auto platform = platformAt({}, "");
-    platform.systemVersion = version;
-    const swiftui::View view = ClearBackgroundModifier{.content = content};
-    EXPECT_EQ(swiftui::resolve(view, environmentOf(platform)).containerBackground.has_value(), version >= 17);
-    const auto drawn = drawnBy(sceneOfView(view, platform));
-    ASSERT_EQ(drawn.size(), 1U) << version;
-    EXPECT_EQ(drawn[0].at("frame"), contentFrame) << version;
-  }
-}
-
 }  // namespace
 }  // namespace mirune

@@ -2,22 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "foundation/property_list.hpp"
 #include "planner.hpp"
-#include "shared/settings.hpp"
 
 namespace mirune {
 namespace {
-
-using Value = foundation::PropertyList::Value;
-
-/// A property list in its binary form: {"k": "v"}
-const std::string binaryList = [] {
-  std::string bytes = "bplist00";
-  bytes += "\xD1\x01\x02\x51k\x51v\x08\x0B\x0D" + std::string(6, '\0') + "\x01\x01";
-  for (const char number : {'\3', '\0', '\x0F'}) bytes += std::string(7, '\0') + number;
-  return bytes;
-}();
 
 TEST(ColorOffset, MakesTheFirstDaysBadgeTheSecond) {
   const struct {
@@ -56,24 +44,6 @@ TEST(ColorOffset, IsTheStoredOneWhereItIsFixed) {
   }
 }
 
-TEST(ColorOffset, IsThatOfTheDayInTheDevicesTimeZone) {
-  Planner planner;
-  EXPECT_EQ(fixedColorOffset(planner.at({.now = "2025-12-31T12:00:00Z", .timeZone = "Pacific/Kiritimati"})), 1);
-}
-
-TEST(ColorOffset, LeavesTheOtherSettingsAndTheFormOfTheirFile) {
-  Planner planner;
-  support::writeBytes(planner.folder() / support::suitePath, binaryList);
-  fixedColorOffset(planner.at({.now = "2026-01-01T08:00:00Z"}));
-  const std::string bytes = planner.settingsBytes();
-  EXPECT_TRUE(bytes.starts_with("bplist00"));
-  const auto list = foundation::PropertyList::parse(bytes);
-  ASSERT_TRUE(list);
-  EXPECT_EQ(list->value("k"), Value("v"));
-  EXPECT_EQ(list->value(settingsKey::colorOffset), Value(std::int64_t{1}));
-  EXPECT_EQ(list->value(settingsKey::isColorOffsetSet), Value(true));
-}
-
 TEST(ColorOffset, IsWorkedOutButNotStoredWithoutSettings) {
   Planner planner;
   support::writeBytes(planner.folder() / support::suitePath, "damaged");
@@ -83,16 +53,6 @@ TEST(ColorOffset, IsWorkedOutButNotStoredWithoutSettings) {
 
   EXPECT_EQ(fixedColorOffset(platformAt({.now = "2026-01-01T08:00:00Z"}, planner.folder() / "missing")), 1);
   EXPECT_FALSE(std::filesystem::exists(planner.folder() / "missing")) << "no container is made";
-}
-
-TEST(ColorOffset, IsSilentWhereItCannotBeStored) {
-  Planner planner;
-  const auto platform = planner.at({.now = "2026-01-01T08:00:00Z"});
-  // Not even root can make a folder where the settings' file should go, or a file below a file.
-  std::filesystem::create_directories(planner.folder() / "Library");
-  std::filesystem::create_symlink(planner.folder() / "nowhere", planner.folder() / "Library" / "Preferences");
-  EXPECT_EQ(fixedColorOffset(platform), 1);
-  EXPECT_TRUE(planner.log.empty());
 }
 
 TEST(ColorOffsetDeathTest, StopsWhereABadgesNumberIsOutOfRange) {

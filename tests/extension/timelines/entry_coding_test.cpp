@@ -11,7 +11,6 @@ using foundation::JSON;
 
 const foundation::UUID id = foundation::UUID::parse("AAAAAAAA-0000-4000-8000-00000000000B").value();
 const foundation::Date date = moment("2026-11-21T08:00:00Z");
-constexpr const char* idText = "AAAAAAAA-0000-4000-8000-00000000000B";
 
 const TaskEntry tasks{.date = date,
                       .data = {{.id = id, .title = "Grüße \"…\"\n", .isOn = true, .date = date}},
@@ -58,19 +57,6 @@ TEST(EntryCoding, ReadsWhatItWrites) {
                             .monthdatadict = {{"21", mood}, {"", {}}},
                             .text = "Moods",
                             .day = 7});
-}
-
-TEST(EntryCoding, NamesMembersAsTheFields) {
-  EXPECT_EQ(JSON(tasks).dump(), R"({"date":"2026-11-21T08:00:00Z","data":[{"id":")" + std::string(idText) +
-                                    R"(","title":"Grüße \"…\"\n","isOn":true,"date":"2026-11-21T08:00:00Z"}],)" +
-                                    R"("itemtype":1,"count":9223372036854775807,"totalTaskCount":-1,)" +
-                                    R"("image":-9223372036854775808,"name":"Tasks"})");
-  const JSON own = JSON(events).at("data").at(0);
-  EXPECT_EQ(own.at("color"), JSON::parse(R"({"red": 1.0, "green": 0.5, "blue": 0.0, "alpha": 0.25})"));
-  EXPECT_TRUE(own.at("starttime").is_null());
-  const JSON plain = JSON(events).at("data").at(1);
-  EXPECT_EQ(plain.at("color"), "label");
-  EXPECT_EQ(plain.at("endtime"), "2026-11-21T08:00:00.250Z");
 }
 
 TEST(EntryCoding, RefusesOtherRecords) {

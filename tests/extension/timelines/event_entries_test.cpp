@@ -121,23 +121,5 @@ TEST(EventEntries, SayHowAnEventLooks) {
   EXPECT_NE(events[0].id.string(), idNumber(1));
 }
 
-TEST(EventEntries, ShareTheEventsOfADay) {
-  Planner planner;
-  auto items = nlohmann::json::array();
-  for (int i = 0; i < 500; ++i) {
-    const std::string minute = (i % 60 < 10 ? "0" : "") + std::to_string(i % 60);
-    const std::string hour = std::to_string(10 + i / 60);
-    items.push_back(event(std::string(100, 'x'), "2026-11-21T" + hour + ":" + minute + ":00Z",
-                          "2026-11-21T" + std::to_string(11 + i / 60) + ":" + minute + ":00Z"));
-  }
-  planner.write("events.json", {{"2026/11/21", items}});
-  const auto entries = eventEntries(planner.platform());
-  ASSERT_EQ(entries.size(), 1U + 560U + 14U);
-  EXPECT_EQ(&*entries[0].data.begin(), &*entries[1].data.begin());
-  EXPECT_EQ(entries[0].count, 500);
-  EXPECT_EQ(entries[0].data, EventList(std::vector(entries[0].data.begin(), entries[0].data.end())));
-  EXPECT_FALSE(entries[0].data == entries[2].data);
-}
-
 }  // namespace
 }  // namespace mirune

@@ -31,40 +31,6 @@ std::string namesOf(const std::vector<MoodWidgetInner>& days) {
   return names;
 }
 
-TEST(MoodEntries, ReachIntoTheMonthBefore) {
-  Planner planner;
-  planner.write("moods.json", {{"2024/02/28", moodNamed("calm")},
-                               {"2024/02/29", moodNamed("deleted")},
-                               {"2024/03/01", moodNamed("happy")},
-                               {"2024/03/04", moodNamed("tomorrow")}});
-  const MoodEntry entry = entryAt(planner, "2024-03-03T08:00:00Z");
-  EXPECT_EQ(namesOf(entry.data), "27:Error 28:calm 29:deleted 1:happy 2:Error 3:Error");
-  EXPECT_EQ(entry.monthdata.at(3).moodData.name, "tomorrow");
-  EXPECT_EQ(entry.day, 3);
-}
-
-TEST(MoodEntries, HaveARecordForEachDayOfTheMonth) {
-  const struct {
-    const char* now;
-    const char* locale;
-    std::size_t days;
-    const char* text;
-  } rows[] = {
-      {"2023-02-28T23:59:59Z", "en_US", 28, "FEBRUARY 2023"}, {"2024-02-01T00:00:00Z", "en_US", 29, "FEBRUARY 2024"},
-      {"2026-11-21T08:00:00Z", "de_DE", 30, "NOVEMBER 2026"}, {"2026-12-31T23:59:59Z", "fr_FR", 31, "DÉCEMBRE 2026"},
-      {"2026-04-05T08:00:00Z", "tr_TR", 30, "NISAN 2026"},
-  };
-  for (const auto& row : rows) {
-    Planner planner;
-    const MoodEntry entry = entryAt(planner, row.now, row.locale);
-    ASSERT_EQ(entry.monthdata.size(), row.days) << row.now;
-    EXPECT_EQ(entry.monthdatadict.size(), row.days);
-    EXPECT_EQ(entry.monthdata.front().text, "1");
-    EXPECT_EQ(entry.monthdata.back().text, std::to_string(row.days));
-    EXPECT_EQ(entry.text, row.text);
-  }
-}
-
 TEST(MoodEntries, KeepTheirDaysWhereTheClockChanges) {
   const struct {
     const char* now;

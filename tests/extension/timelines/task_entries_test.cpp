@@ -71,15 +71,6 @@ TEST(TaskEntries, CountAndListADaysItems) {
     Day habits;
   } rows[] = {
       {"nothing at all", {}, {}, {}},
-      {"the planner's order",
-       {.tasks = {{today, {item(2), item(1), item(3)}}}},
-       {.open = {"item 2", "item 1", "item 3"}, .total = 3},
-       {}},
-      {"another day's items", {.tasks = {{"2026/11/20", {item(1)}}}}, {}, {}},
-      {"done items count in the total only",
-       {.tasks = {{today, {item(1, 1, true), item(2)}}}},
-       {.open = {"item 2"}, .total = 2},
-       {}},
       {"items of another type count nowhere",
        {.tasks = {{today, {item(1, 2), item(2, 3), item(3)}}}, .habits = {{today, {item(4), item(5, 2), item(6, 3)}}}},
        {.open = {"item 3"}, .total = 1},
@@ -115,10 +106,6 @@ TEST(TaskEntries, CountAndListADaysItems) {
        {.tasks = {{today, {item(1)}}}, .overrides = {{idNumber(1), nullptr}}},
        {.open = {"item 1"}, .total = 1},
        {}},
-      {"pending tasks come behind the day's own",
-       {.tasks = {{today, {item(1)}}}, .pending = {{"tasks", {item(2), item(3, 1, true)}}, {today, {item(4)}}}},
-       {.open = {"item 1", "item 2"}, .total = 3},
-       {}},
       {"a refused file leaves the other",
        {.tasks = {{today, {{{"type", 1}}}}}, .pending = {{"tasks", {item(2)}}}},
        {.open = {"item 2"}, .total = 1},
@@ -139,31 +126,6 @@ TEST(TaskEntries, CountAndListADaysItems) {
     EXPECT_EQ(dayOf(taskEntries(planner.platform()).at(0)), row.tasks) << "tasks";
     EXPECT_EQ(dayOf(habitEntries(planner.platform()).at(0)), row.habits) << "habits";
   }
-}
-
-TEST(TaskEntries, CoverFifteenDays) {
-  Planner planner;
-  planner.write("tasks.json", {{"2026/12/05", {item(1)}}, {"2026/12/06", {item(2)}}});
-  planner.write("pendingtasks.json", {{"tasks", {item(3), item(4)}}});
-  planner.write(std::string(timelineOverrideFile), ticked(idNumber(4)));
-  const auto entries = taskEntries(planner.platform());
-  ASSERT_EQ(entries.size(), 15U);
-  for (std::size_t day = 0; day < entries.size(); ++day) {
-    const bool isLast = day == 14;
-    EXPECT_EQ(dayOf(entries[day]),
-              isLast ? Day({.open = {"item 1", "item 3"}, .total = 3}) : Day({.open = {"item 3"}, .total = 2}))
-        << day;
-    EXPECT_EQ(entries[day].name, "Tasks");
-  }
-  EXPECT_EQ(habitEntries(planner.platform()).at(14).name, "Habits");
-}
-
-TEST(TaskEntries, NumberTheirBadgesByTheDayOfTheYear) {
-  Planner planner;
-  planner.writeSettings({{"color_calendar_offset_set", true}, {"color_calendar_offset", 10}});
-  const auto entries = taskEntries(planner.at({.now = "2026-12-30T08:00:00Z"}));
-  const std::vector<std::int64_t> expected{374, 375, 11, 12};
-  for (std::size_t day = 0; day < expected.size(); ++day) EXPECT_EQ(entries[day].image, expected[day]) << day;
 }
 
 TEST(TaskEntries, KeepTheWallClockOfTodaysStart) {

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
-
 #include "planner.hpp"
 
 namespace mirune {
@@ -60,41 +58,6 @@ TEST(TaskEventEntries, PairWhatBothSidesShow) {
   for (const auto& row : rows) {
     EXPECT_EQ(linesOf(merged(entriesAt<TaskEntry>(row.tasks), entriesAt<EventEntry>(row.events), fallback)), row.lines)
         << row.name;
-  }
-}
-
-TEST(TaskEventEntries, ShowAtEveryMomentTheLatestOfBothSides) {
-  std::mt19937 random(1);
-  for (int round = 0; round < 200; ++round) {
-    std::vector<int> tasks(random() % 8);
-    std::vector<int> events(random() % 8);
-    for (int& at : tasks) at = static_cast<int>(random() % 20);
-    for (int& at : events) at = static_cast<int>(random() % 20);
-    const auto taskList = entriesAt<TaskEntry>(tasks);
-    const auto eventList = entriesAt<EventEntry>(events);
-    const auto entries = merged(taskList, eventList, fallback);
-    EXPECT_TRUE(std::ranges::is_sorted(entries, {}, &TaskEventEntry::date));
-
-    /// The last entry whose date is not after the moment; of equal dates the last.
-    const auto latest = [](const auto& list, Date at) {
-      std::int64_t image = 0;
-      std::optional<Date> best;
-      for (const auto& each : list) {
-        if (each.date <= at && (!best || each.date >= *best)) {
-          best = each.date;
-          image = each.image;
-        }
-      }
-      return image;
-    };
-    for (int at = 0; at < 20; ++at) {
-      const TaskEventEntry* shown = nullptr;
-      for (const auto& entry : entries) {
-        if (entry.date <= minute(at)) shown = &entry;
-      }
-      EXPECT_EQ(shown == nullptr ? 0 : shown->taskEntry.image, latest(taskList, minute(at)));
-      EXPECT_EQ(shown == nullptr ? 0 : shown->eventEntry.image, latest(eventList, minute(at)));
-    }
   }
 }
 

@@ -14,13 +14,14 @@ using namespace std::chrono_literals;
 
 class Container : public testing::Test {
  protected:
-  Container() {
+  Container() { fill(); }
+
+  void fill() const {
     write("tasks.json", R"({"a": 1})");
     write("events.json", R"({"b": 2})");
     write("icons/a.svg", "<svg/>");
     write("Library/Preferences/group.plist", "<plist/>");
   }
-
   void write(const char* name, const std::string& text, std::chrono::seconds age = 60s) const {
     support::writeBytes(folder / name, text);
     fs::last_write_time(folder / name, fs::file_time_type::clock::now() - age);
@@ -56,10 +57,7 @@ TEST_F(Container, DiffersByTheContentOfItsFiles) {
   };
   for (const auto& row : rows) {
     fs::remove_all(folder.path());
-    write("tasks.json", R"({"a": 1})");
-    write("events.json", R"({"b": 2})");
-    write("icons/a.svg", "<svg/>");
-    write("Library/Preferences/group.plist", "<plist/>");
+    fill();
     const ContainerFiles before = read();
     row.change();
     const ContainerFiles after = read(before);

@@ -2,7 +2,6 @@ import { createServer } from 'node:http';
 import { readFile } from 'node:fs/promises';
 import { extname, join, normalize } from 'node:path';
 import { Home, Refusal } from './home.mjs';
-import { mirunePictures, program } from './mirune_pictures.mjs';
 import { plainPictures } from './plain_pictures.mjs';
 import { catalogue } from './catalogue.mjs';
 
@@ -39,14 +38,11 @@ const routes = [
 ];
 
 /**
- * A stand-in for the program's server, for tests of the page. `pictures` is 'plain' or 'mirune'.
+ * A stand-in for the program's server, for tests of the page.
  * Tests steer it: `deny` answers 403 to everything, `cut` ends every connection and lets none in until `heal`.
  */
-export async function startMock({ pictures = 'plain', widgets = [], port = 0, ...settings } = {}) {
-  const now = settings.now ?? '2026-11-21T09:00:00Z';
-  const drawn = pictures === 'mirune'
-    ? await mirunePictures({ now, timeZone: 'Europe/Berlin', locale: 'en_GB', ...settings }) : plainPictures();
-  const home = new Home({ pictures: drawn, ...settings, now });
+export async function startMock({ widgets = [], port = 0, ...settings } = {}) {
+  const home = new Home({ pictures: plainPictures(), ...settings });
   for (const [kind, family] of widgets) home.add(kind, family);
   const mock = { home, deny: false, cutOff: false, requests: [] };
   const streams = new Set();
@@ -109,19 +105,17 @@ export async function startMock({ pictures = 'plain', widgets = [], port = 0, ..
       for (const stream of streams) stream.end();
       server.closeAllConnections();
       await new Promise((resolve) => { server.close(resolve); });
-      await drawn.close?.();
     },
   });
 }
 
 /** Everything that a lively home screen holds. */
-export const fullHome = [['tasks', 'systemSmall'], ['calendar', 'systemSmall'], ['mood', 'systemMedium'],
+const fullHome = [['tasks', 'systemSmall'], ['calendar', 'systemSmall'], ['mood', 'systemMedium'],
   ['habits', 'systemSmall'], ['events', 'systemSmall'], ['combined', 'systemMedium'], ['moods', 'systemLarge'],
   ['quote', 'systemMedium'], ['events', 'accessoryInline'], ['tasks', 'accessoryCircular'],
   ['tasks', 'accessoryRectangular'], ['habits', 'accessoryCircular']];
 
 if (process.argv[1] === new URL(import.meta.url).pathname) {
-  const mock = await startMock({ pictures: program ? 'mirune' : 'plain', widgets: fullHome, port: Number(process.argv[2] ?? 0),
-    theme: process.argv[3] ?? 'light' });
+  const mock = await startMock({ widgets: fullHome, port: Number(process.argv[2] ?? 0), theme: process.argv[3] ?? 'light' });
   console.log(mock.address);
 }

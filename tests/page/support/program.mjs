@@ -1,9 +1,15 @@
-import { execFile, execFileSync, spawn } from 'node:child_process';
+import { execFileSync, spawn } from 'node:child_process';
+import { existsSync } from 'node:fs';
 import { mkdir, mkdtemp, rm } from 'node:fs/promises';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
 import { createInterface } from 'node:readline';
-import { program } from '../mock/mirune_pictures.mjs';
+
+const build = new URL('../../../build/', import.meta.url).pathname;
+
+/** Where the program is, or null. */
+export const program = [process.env.MIRUNE, join(build, 'release/bin/mirune'), join(build, 'checking/bin/mirune')]
+  .find((path) => path && existsSync(path)) ?? null;
 
 /** The program's own home screen, on a sample container in a folder of its own. */
 export class Program {
@@ -33,11 +39,6 @@ export class Program {
     this.container = join(folder, 'container');
     this.server = server;
     this.address = address;
-  }
-
-  /** Ends the extension, if there is one, as a fault would. */
-  killExtension() {
-    return new Promise((resolve) => { execFile('pkill', ['-9', '-P', String(this.server.pid)], resolve); });
   }
 
   async close() {
