@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <nlohmann/json.hpp>
@@ -51,13 +52,14 @@ inline std::vector<nlohmann::json> having(const std::vector<nlohmann::json>& dra
 
 /// That nothing but the paper is painted nearer to the edges than that.
 inline void expectWithin(const rendering::Scene& scene, double margin = 0) {
+  const double least = std::max(margin - 0.01, 0.0);
   for (const auto& drawn : drawnBy(scene)) {
     if (drawn.value("name", "") == "paper1new_widget") continue;
     const auto& frame = drawn.at("frame");
     const double x = frame.at(0);
     const double y = frame.at(1);
-    EXPECT_GE(x, margin - 0.01) << drawn;
-    EXPECT_GE(y, margin - 0.01) << drawn;
+    EXPECT_GE(x, least) << drawn;
+    EXPECT_GE(y, least) << drawn;
     EXPECT_LE(x + frame.at(2).get<double>(), scene.size.width - margin + 0.01) << drawn;
     EXPECT_LE(y + frame.at(3).get<double>(), scene.size.height - margin + 0.01) << drawn;
   }
