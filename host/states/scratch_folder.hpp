@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cerrno>
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <system_error>

@@ -53,8 +53,8 @@ JSON daysOf(const JSON& file, std::pair<int, int> days) {
   JSON kept = JSON::object();
   for (const auto& [key, record] : file.items()) {
     int day = 0;
-    const std::string number = key.substr(key.find_first_of("-0123456789", before.size()));
-    std::from_chars(number.data(), number.data() + number.size(), day);
+    const std::size_t number = key.starts_with("{day+") ? before.size() + 1 : before.size();
+    if (key.size() > number) std::from_chars(key.data() + number, key.data() + key.size(), day);
     if (days.first <= day && day <= days.second) kept[key] = record;
   }
   return kept;

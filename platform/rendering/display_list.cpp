@@ -45,24 +45,29 @@ DrawText drawText(const PlacedElement& placed, const TextElement& text) {
   return draw;
 }
 
-// How masked content looks is nowhere published: pale bars as wide as the lines and as high as their capitals.
+// How masked content looks is nowhere published: pale bars as wide as the lines and a little higher than their capitals.
 constexpr double maskOpacity = 0.16;
+constexpr double pictureMaskOpacity = 0.1;
+/// How far a bar reaches beyond the capitals, above and below, of their height.
+constexpr double maskMargin = 0.1;
 
 DrawShape mask(Rect frame, double cornerRadius, uikit::RGBA color, double opacity) {
   return {.shape = RoundedRectangle{.cornerRadius = cornerRadius},
           .frame = frame,
-          .ink = {.color = color, .opacity = opacity * maskOpacity}};
+          .ink = {.color = color, .opacity = opacity}};
 }
 
 void maskText(const PlacedElement& placed, const TextElement& text, DisplayList& list) {
   const DrawText drawn = drawText(placed, text);
-  const double height = placed.text->metrics.capHeight * 1.2;
+  const double capHeight = placed.text->metrics.capHeight;
+  const double height = capHeight * (1 + 2 * maskMargin);
   for (std::size_t i = 0; i < drawn.lines.size(); ++i) {
     const double width = placed.text->lines[i].width;
     const Point baseline = drawn.lines[i].origin;
     if (width <= 0) continue;
-    list.emplace_back(mask({.origin = {.x = baseline.x, .y = baseline.y - height / 1.1}, .size = {width, height}},
-                           height / 3, text.paint.color, text.paint.opacity));
+    const double top = baseline.y - capHeight * (1 + maskMargin);
+    list.emplace_back(mask({.origin = {.x = baseline.x, .y = top}, .size = {width, height}}, height / 3,
+                           text.paint.color, text.paint.opacity * maskOpacity));
   }
 }
 
@@ -70,7 +75,7 @@ void maskText(const PlacedElement& placed, const TextElement& text, DisplayList&
 void maskImage(const PlacedElement& placed, const ImageElement& image, DisplayList& list) {
   const double side = std::min(placed.frame.size.width, placed.frame.size.height);
   const uikit::RGBA label = uikit::resolve(uikit::SystemColor::label, image.paint.colorScheme);
-  list.emplace_back(mask(placed.frame, side / 3, label, image.paint.opacity * 0.6));
+  list.emplace_back(mask(placed.frame, side / 3, label, image.paint.opacity * pictureMaskOpacity));
 }
 
 bool isEmpty(Rect frame) {

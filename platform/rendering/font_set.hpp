@@ -28,6 +28,8 @@ class FontSet {
 
   PangoContext* context() const { return context_.get(); }
   FontDescription description(const swiftui::Font& font);
+  /// What can be written in the system font; null where it is missing.
+  CharacterSet systemCharacters() const { return charactersOf(fontconfig_.get(), systemFamily); }
 
  private:
   const FontFace& customFace(const swiftui::Font& font);

@@ -83,8 +83,8 @@ FontconfigHandle makeFontconfig(FontFolders folders) {
   return config;
 }
 
-CharacterSet charactersOf(const std::string& family) {
-  const FcFontSet* fonts = FcConfigGetFonts(nullptr, FcSetSystem);
+CharacterSet charactersOf(FcConfig* config, std::string_view family) {
+  const FcFontSet* fonts = FcConfigGetFonts(config, FcSetSystem);
   for (int i = 0; fonts != nullptr && i < fonts->nfont; ++i) {
     FcCharSet* characters = nullptr;
     int weight = 0;

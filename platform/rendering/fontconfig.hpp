@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace rendering {
 
@@ -28,8 +29,8 @@ enum class FontFolders {
 /// every font is asked for by its own family. Only emoji have an alias.
 FontconfigHandle makeFontconfig(FontFolders folders);
 
-/// The characters that the regular font of the current configuration's family has; null where there is none such.
-CharacterSet charactersOf(const std::string& family);
+/// The characters that the family's regular font has; null where there is none such.
+CharacterSet charactersOf(FcConfig* config, std::string_view family);
 
 /// What a font file says of itself.
 struct FontFace {

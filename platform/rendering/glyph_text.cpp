@@ -29,7 +29,7 @@ double GlyphStyle::spacingBehind(std::string_view line) const {
   return last != nullptr && joinsLetters(g_utf8_get_char(last)) ? 0 : spacing;
 }
 
-GlyphText::GlyphText() : usual_(FontFolders::systemFont), letters_(charactersOf(std::string(systemFamily))) {}
+GlyphText::GlyphText() : usual_(FontFolders::systemFont), letters_(usual_.systemCharacters()) {}
 
 bool GlyphText::isUsual(const std::string& content) const {
   for (const char* at = content.c_str(); *at != '\0'; at = g_utf8_next_char(at)) {
@@ -67,12 +67,14 @@ swiftui::FontMetrics GlyphText::customFontMetrics(const Font& font) const {
   struct Unref {
     void operator()(PangoFontMetrics* metrics) const { pango_font_metrics_unref(metrics); }
   };
+  constexpr const char* letter = "H";
+  FontSet& fonts = fontsFor(letter);
   const std::unique_ptr<PangoFontMetrics, Unref> metrics(
-      pango_context_get_metrics(usual_.context(), usual_.description(font).get(), pango_language_from_string("en")));
+      pango_context_get_metrics(fonts.context(), fonts.description(font).get(), pango_language_from_string("en")));
   const double descent = pango_units_to_double(pango_font_metrics_get_descent(metrics.get()));
   // What a font wants between its lines belongs to each of them: fonts that keep it apart leave too little without it.
   const double ascent = pango_units_to_double(pango_font_metrics_get_height(metrics.get())) - descent;
-  const GObjectHandle<PangoLayout> capital = paragraph("H", {.font = font});
+  const GObjectHandle<PangoLayout> capital = paragraph(letter, {.font = font});
   PangoRectangle ink;
   pango_layout_get_extents(capital.get(), &ink, nullptr);
   return {.ascent = ascent, .descent = descent, .capHeight = pango_units_to_double(ink.height)};

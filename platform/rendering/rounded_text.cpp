@@ -13,8 +13,10 @@ using CairoPattern =
     std::unique_ptr<cairo_pattern_t, decltype([](cairo_pattern_t* pattern) { cairo_pattern_destroy(pattern); })>;
 
 bool isOfSystemFont(const PangoLayoutRun& run) {
+  // Where a machine has no font at all, letters are boxes.
   const FontDescription description(pango_font_describe(run.item->analysis.font));
-  return std::string_view(pango_font_description_get_family(description.get())) == systemFamily;
+  const char* const family = description ? pango_font_description_get_family(description.get()) : nullptr;
+  return family != nullptr && family == systemFamily;
 }
 
 /// Fills and outlines the path in one stencil first: where the two overlap a translucent colour must not be seen twice.
