@@ -45,7 +45,8 @@ DrawText drawText(const PlacedElement& placed, const TextElement& text) {
   return draw;
 }
 
-// How masked content looks is nowhere published: pale bars as wide as the lines and a little higher than their capitals.
+// How masked content looks is nowhere published: pale bars as wide as the lines and a little higher than their
+// capitals.
 constexpr double maskOpacity = 0.16;
 constexpr double pictureMaskOpacity = 0.1;
 /// How far a bar reaches beyond the capitals, above and below, of their height.

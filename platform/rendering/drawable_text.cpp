@@ -1,43 +1,55 @@
 #include "rendering/drawable_text.hpp"
 
-#include <glib.h>
+#include <unicode/uchar.h>
+#include <unicode/utf8.h>
 
-#include <memory>
-#include <string_view>
+#include <cstdint>
 
 namespace rendering {
 namespace {
 
-constexpr glong mostCharacters = 4096;
+constexpr std::size_t mostCharacters = 4096;
+constexpr UChar32 replacement = 0xFFFD;
 
-// The longer ones before those that they begin with.
-constexpr std::string_view lineBreaks[] = {"\r\n", "\r", "\v", "\f", "\u0085", "\u2028", "\u2029"};
+bool isLineBreak(UChar32 character) {
+  constexpr UChar32 nextLine = 0x85;
+  constexpr UChar32 lineSeparator = 0x2028;
+  constexpr UChar32 paragraphSeparator = 0x2029;
+  return (character >= '\n' && character <= '\r') || character == nextLine || character == lineSeparator ||
+         character == paragraphSeparator;
+}
 
-struct FreeText {
-  void operator()(gchar* text) const { g_free(text); }
-};
-
-void replaceAll(std::string& text, std::string_view old, std::string_view by) {
-  for (std::size_t at = text.find(old); at != std::string::npos; at = text.find(old, at + by.size())) {
-    text.replace(at, old.size(), by);
-  }
+void append(std::string& text, UChar32 character) {
+  std::uint8_t bytes[U8_MAX_LENGTH];
+  std::int32_t length = 0;
+  U8_APPEND_UNSAFE(bytes, length, character);
+  text.append(bytes, bytes + length);
 }
 
 }  // namespace
 
-std::string drawableText(std::string content) {
-  if (g_utf8_validate(content.data(), static_cast<gssize>(content.size()), nullptr) == FALSE) {
-    const std::unique_ptr<gchar, FreeText> valid(
-        g_utf8_make_valid(content.data(), static_cast<gssize>(content.size())));
-    content = valid.get();
+std::string drawableText(const std::string& content) {
+  const auto* bytes = reinterpret_cast<const std::uint8_t*>(content.data());
+  const auto size = static_cast<std::int64_t>(content.size());
+  std::string text;
+  text.reserve(content.size());
+  std::size_t count = 0;
+  for (std::int64_t position = 0; position < size; ++count) {
+    if (count == mostCharacters) return text + "…";
+    UChar32 character = 0;
+    U8_NEXT_OR_FFFD(bytes, position, size, character);
+    if (character == '\r' && position < size && bytes[position] == '\n') ++position;
+    if (isLineBreak(character)) {
+      text += '\n';
+    } else if (character == '\t') {
+      text += ' ';
+    } else if (character == 0) {
+      append(text, replacement);
+    } else if (u_charType(character) != U_CONTROL_CHAR) {
+      append(text, character);
+    }
   }
-  if (content.size() > mostCharacters && g_utf8_strlen(content.c_str(), -1) > mostCharacters) {
-    const gchar* end = g_utf8_offset_to_pointer(content.c_str(), mostCharacters);
-    content.resize(static_cast<std::size_t>(end - content.c_str()));
-    content += "…";
-  }
-  for (const std::string_view lineBreak : lineBreaks) replaceAll(content, lineBreak, "\n");
-  return content;
+  return text;
 }
 
 }  // namespace rendering

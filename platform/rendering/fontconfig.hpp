@@ -5,40 +5,43 @@
 #include <filesystem>
 #include <memory>
 #include <string>
-#include <string_view>
+#include <vector>
 
 namespace rendering {
 
-struct DestroyFontconfig {
-  void operator()(FcConfig* config) const { FcConfigDestroy(config); }
-};
-using FontconfigHandle = std::unique_ptr<FcConfig, DestroyFontconfig>;
-
-struct DestroyCharacterSet {
-  void operator()(FcCharSet* set) const { FcCharSetDestroy(set); }
-};
-using CharacterSet = std::unique_ptr<FcCharSet, DestroyCharacterSet>;
-
-/// Where fonts are looked for.
-enum class FontFolders {
-  systemFont,  ///< the one folder that the system font is in
-  all,         ///< and every other one of the machine
-};
-
-/// The system's font folders without its rules: reading those takes ten times as long and none of them is wanted, for
-/// every font is asked for by its own family. Only emoji have an alias.
-FontconfigHandle makeFontconfig(FontFolders folders);
-
-/// The characters that the family's regular font has; null where there is none such.
-CharacterSet charactersOf(FcConfig* config, std::string_view family);
-
-/// What a font file says of itself.
+/// One face of a font file, and the characters that it can write.
 struct FontFace {
-  std::string family = {};
-  int weight = FC_WEIGHT_REGULAR;  ///< fontconfig's scale
+  std::filesystem::path file = {};
+  int index = 0;  ///< within the file
+  std::shared_ptr<const FcCharSet> characters = nullptr;
+
+  bool has(char32_t character) const { return FcCharSetHasChar(characters.get(), character) != FcFalse; }
 };
 
-/// Makes a font file known. The answer is its first face; the family is empty where the file is no font.
-FontFace addFontFile(FcConfig* config, const std::filesystem::path& file);
+/// What a font is wished for.
+struct FontWish {
+  std::vector<std::string> families = {};  ///< the ones that come first, in their order
+  int weight = 400;                        ///< of the OpenType scale
+  bool italic = false;
+  std::string language = {};  ///< as fontconfig's tables of languages have it
+
+  friend auto operator<=>(const FontWish&, const FontWish&) = default;
+};
+
+/// The fonts of this machine, in the system's font folders. Its rules are not read: that takes ten times as long, and
+/// none of them is wanted, for every font is asked for by its own family.
+class InstalledFonts {
+ public:
+  InstalledFonts();
+
+  /// All faces that add characters to the ones before them, the fittest first.
+  std::vector<FontFace> sorted(const FontWish& wish) const;
+
+ private:
+  struct Destroy {
+    void operator()(FcConfig* config) const { FcConfigDestroy(config); }
+  };
+  std::unique_ptr<FcConfig, Destroy> config_;
+};
 
 }  // namespace rendering

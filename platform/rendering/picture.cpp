@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "rendering/cairo_handles.hpp"
-#include "rendering/gobject.hpp"
 #include "rendering/svg_library.hpp"
 
 namespace rendering {
@@ -92,7 +91,7 @@ class Bitmap final : public Picture {
 
 class Outlines final : public Picture {
  public:
-  Outlines(GObjectHandle<RsvgHandle> handle, swiftui::Size size, std::size_t cost)
+  Outlines(SVGHandle handle, swiftui::Size size, std::size_t cost)
       : handle_(std::move(handle)), size_(size), cost_(cost) {}
 
   swiftui::Size size() const override { return size_; }
@@ -118,7 +117,7 @@ class Outlines final : public Picture {
   }
 
  private:
-  GObjectHandle<RsvgHandle> handle_;
+  SVGHandle handle_;
   swiftui::Size size_;
   std::size_t cost_;
 };
@@ -177,8 +176,7 @@ std::unique_ptr<Picture> pictureOfSVG(const std::string& bytes) {
   const SVGLibrary* const library = SVGLibrary::open();
   if (library == nullptr) return nullptr;
   // Made from bytes, a picture has no place that it could refer to other files from.
-  GObjectHandle<RsvgHandle> handle(
-      library->newFromData(reinterpret_cast<const guint8*>(bytes.data()), bytes.size(), nullptr));
+  SVGHandle handle(library->newFromData(reinterpret_cast<const guint8*>(bytes.data()), bytes.size(), nullptr));
   if (!handle) return nullptr;
   library->setDPI(handle.get(), 96);
   const swiftui::Size size = sizeOfSVG(*library, handle.get());

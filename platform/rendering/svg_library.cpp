@@ -24,7 +24,8 @@ std::optional<SVGLibrary> opened() {
                        find(library, "rsvg_handle_set_dpi", functions.setDPI) &&
                        find(library, "rsvg_handle_get_intrinsic_size_in_pixels", functions.intrinsicSize) &&
                        find(library, "rsvg_handle_get_intrinsic_dimensions", functions.intrinsicDimensions) &&
-                       find(library, "rsvg_handle_render_document", functions.renderDocument);
+                       find(library, "rsvg_handle_render_document", functions.renderDocument) &&
+                       find(library, "g_object_unref", functions.unref);
   return isWhole ? std::optional(functions) : std::nullopt;
 }
 

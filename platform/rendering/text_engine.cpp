@@ -5,8 +5,9 @@
 #include <limits>
 
 #include "rendering/drawable_text.hpp"
-#include "rendering/glyph_text.hpp"
-#include "rendering/rounded_text.hpp"
+#include "rendering/glyph_drawing.hpp"
+#include "rendering/letters.hpp"
+#include "rendering/shaper.hpp"
 #include "rendering/text_breaking.hpp"
 #include "rendering/typography.hpp"
 
@@ -22,8 +23,6 @@ using swiftui::TextStyle;
 
 /// How close to the largest fitting size a shrunk text comes, and how small it gets at the most.
 constexpr double scaleStep = 0.01;
-/// The pen around the outlines of the rounded design, in em: about half of what separates two weights.
-constexpr double roundedPen = 0.022;
 
 Font scaled(Font font, double scale) {
   font.size *= scale;
@@ -49,11 +48,11 @@ std::size_t allowedLines(const TextStyle& style, ProposedSize proposal, double l
 
 }  // namespace
 
-TextEngine::TextEngine() : glyphs_(std::make_unique<GlyphText>()) {}
+TextEngine::TextEngine() : shaper_(std::make_unique<Shaper>()) {}
 TextEngine::~TextEngine() = default;
 
 FontMetrics TextEngine::fontMetrics(const Font& font) const {
-  return font.name.empty() ? systemFontMetrics(font.size) : glyphs_->customFontMetrics(font);
+  return font.name.empty() ? systemFontMetrics(font.size) : shaper_->customFontMetrics(font);
 }
 
 TextLayout TextEngine::layoutText(const std::string& original, const TextStyle& style, ProposedSize proposal) const {
@@ -78,7 +77,7 @@ TextLayout TextEngine::layoutText(const std::string& original, const TextStyle& 
   const auto attempt = [&](double scale) {
     Attempt result{.scale = scale, .metrics = fontMetrics(scaled(style.font, scale))};
     result.allowed = allowedLines(style, proposal, result.metrics.lineHeight());
-    result.broken = breakText(*glyphs_, content, glyphStyle(style, scale), proposal.width);
+    result.broken = breakText(*shaper_, content, glyphStyle(style, scale), proposal.width);
     return result;
   };
 
@@ -106,10 +105,10 @@ TextLayout TextEngine::layoutText(const std::string& original, const TextStyle& 
     const std::string rest = content.substr(start);
     const std::size_t end = rest.find('\n');
     layout.lines.push_back(
-        truncatedLine(*glyphs_, rest.substr(0, end), end != std::string::npos, glyphs, proposal.width));
+        truncatedLine(*shaper_, rest.substr(0, end), end != std::string::npos, glyphs, proposal.width));
     layout.shown = content.substr(0, start);
     const std::string& last = layout.lines.back().content;
-    if (last.empty() || last == ellipsis) dropBlanksAtEnd(layout.shown);
+    if (last.empty() || last == ellipsis) layout.shown = withoutBlanksAtEnd(layout.shown);
     layout.shown += last;
   }
   return layout;
@@ -118,16 +117,7 @@ TextLayout TextEngine::layoutText(const std::string& original, const TextStyle& 
 void TextEngine::drawLine(cairo_t* cairo, const std::string& line, const TextStyle& style, double scale,
                           swiftui::Point origin) const {
   const GlyphStyle glyphs = glyphStyle(style, scale);
-  const auto paragraph = glyphs_->paragraph(line, glyphs);
-  PangoLayoutLine* glyphLine = pango_layout_get_line_readonly(paragraph.get(), 0);
-  // The spacing behind the last character stands to the left of it where writing runs to the left.
-  const bool runsToTheLeft = pango_layout_line_get_resolved_direction(glyphLine) == PANGO_DIRECTION_RTL;
-  cairo_move_to(cairo, origin.x + (runsToTheLeft ? glyphs.spacingBehind(line) : 0), origin.y);
-  if (style.font.design != swiftui::FontDesign::rounded) {
-    pango_cairo_show_layout_line(cairo, glyphLine);
-    return;
-  }
-  drawRounded(cairo, glyphLine, roundedPen * style.font.size * scale);
+  drawGlyphs(cairo, shaper_->shaped(line, glyphs), line, glyphs, origin);
 }
 
 }  // namespace rendering

@@ -8,7 +8,7 @@
 
 namespace rendering {
 
-class GlyphText;
+class Shaper;
 
 /// Breaks texts into lines and draws them.
 class TextEngine {
@@ -27,7 +27,7 @@ class TextEngine {
                 swiftui::Point origin) const;
 
  private:
-  std::unique_ptr<GlyphText> glyphs_;
+  std::unique_ptr<Shaper> shaper_;
 };
 
 }  // namespace rendering
