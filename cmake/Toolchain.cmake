@@ -9,7 +9,7 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 # called, for the extension starts often and calls few of them.
 set(CMAKE_CXX_FLAGS_RELEASE
     "-O2 -g1 -fstack-protector-strong -D_FORTIFY_SOURCE=2 -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.")
-set(CMAKE_EXE_LINKER_FLAGS_RELEASE "-Wl,-z,relro")
+set(CMAKE_EXE_LINKER_FLAGS_RELEASE "-Wl,-O1,-z,relro,-z,pack-relative-relocs,--as-needed,--gc-sections")
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
 

@@ -1,3 +1,5 @@
+#include <malloc.h>
+
 #include <cstdlib>
 #include <filesystem>
 
@@ -14,9 +16,18 @@ std::filesystem::path resourcesFolder() {
   return program.parent_path().parent_path() / "share" / "mirune";
 }
 
+/// Every picture takes and gives back about a megabyte: what is given back to the system has to be cleared by it again
+/// each time.
+void keepFreedMemory() {
+  constexpr int largestKept = 8 * 1024 * 1024;
+  mallopt(M_MMAP_THRESHOLD, largestKept);
+  mallopt(M_TRIM_THRESHOLD, largestKept);
+}
+
 }  // namespace
 
 int main() {
+  keepFreedMemory();
   const auto resources = resourcesFolder();
   return widgetkit::runBundle(mirune::Mirune_WidgetsColl(resources), {.folder = resources});
 }

@@ -1,10 +1,10 @@
 #include "foundation/message_catalogue.hpp"
 
-#include <simdjson.h>
-
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+
+#include "foundation/strings.hpp"
 
 namespace foundation {
 namespace {
@@ -33,7 +33,7 @@ class Reader {
     const std::uint64_t start = number(row + 4);
     if (start + length >= bytes_.size() || bytes_[start + length] != '\0') return std::nullopt;
     const std::string_view text = bytes_.substr(start, length);
-    if (!simdjson::validate_utf8(text.data(), text.size())) return std::nullopt;
+    if (!isUTF8(text)) return std::nullopt;
     // A NUL parts the forms of a text that depends on a number.
     return text.substr(0, text.find('\0'));
   }

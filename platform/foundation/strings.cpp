@@ -80,6 +80,17 @@ std::string_view trimmedToAlphanumerics(std::string_view text) {
   return text.substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(end - begin));
 }
 
+bool isUTF8(std::string_view bytes) {
+  const auto* start = reinterpret_cast<const std::uint8_t*>(bytes.data());
+  const auto size = static_cast<std::int64_t>(bytes.size());
+  for (std::int64_t position = 0; position < size;) {
+    UChar32 character = 0;
+    U8_NEXT(start, position, size, character);
+    if (character < 0) return false;
+  }
+  return true;
+}
+
 std::size_t characterCount(std::string_view text) {
   if (isASCII(text)) return text.size();
   UErrorCode status = U_ZERO_ERROR;

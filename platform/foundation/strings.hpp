@@ -20,6 +20,9 @@ std::string filled(std::string_view format, long long number);
 /// The text without what is neither letter, mark nor number (of any script) at its two ends; the inner text stays.
 std::string_view trimmedToAlphanumerics(std::string_view text);
 
+/// Whether the bytes are UTF-8, as all texts here have to be.
+bool isUTF8(std::string_view bytes);
+
 /// The number of characters that a reader sees: a letter with its accents is one.
 std::size_t characterCount(std::string_view text);
 

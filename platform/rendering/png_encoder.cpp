@@ -1,15 +1,24 @@
 #include "rendering/png_encoder.hpp"
 
-#include <png.h>
+#include <libdeflate.h>
 
 #include <cstdint>
 #include <cstring>
-#include <vector>
+#include <memory>
+#include <string_view>
 
 #include "foundation/fatal_error.hpp"
 
 namespace rendering {
 namespace {
+
+using Compressor =
+    std::unique_ptr<libdeflate_compressor,
+                    decltype([](libdeflate_compressor* compressor) { libdeflate_free_compressor(compressor); })>;
+
+/// On flat art the fastest level is nearly the smallest, too, and rows are smallest as they are.
+constexpr int compressionLevel = 1;
+constexpr char noFilter = 0;
 
 /// A cairo surface's pixels: native-endian 32-bit words, alpha highest, colours multiplied by alpha.
 struct Pixels {
@@ -26,68 +35,66 @@ struct Pixels {
 
   bool isOpaque() const {
     for (std::uint32_t y = 0; y < height; ++y) {
-      for (std::uint32_t x = 0; x < width; ++x) {
-        if (at(x, y) >> 24 != 0xFF) return false;
-      }
+      std::uint32_t all = 0xFF000000;
+      for (std::uint32_t x = 0; x < width; ++x) all &= at(x, y);
+      if (all >> 24 != 0xFF) return false;
     }
     return true;
   }
 };
 
-void writeRow(const Pixels& pixels, std::uint32_t y, bool hasAlpha, png_bytep row) {
-  for (std::uint32_t x = 0; x < pixels.width; ++x) {
-    const std::uint32_t word = pixels.at(x, y);
-    const std::uint32_t alpha = word >> 24;
-    const auto part = [&](int shift) {
-      const std::uint32_t value = word >> shift & 0xFF;
-      if (alpha == 0xFF || alpha == 0) return static_cast<png_byte>(value);
-      return static_cast<png_byte>((value * 255 + alpha / 2) / alpha);
-    };
-    *row++ = part(16);
-    *row++ = part(8);
-    *row++ = part(0);
-    if (hasAlpha) *row++ = static_cast<png_byte>(alpha);
-  }
+/// A colour part as it is without alpha.
+char plain(std::uint32_t value, std::uint32_t alpha) {
+  return static_cast<char>(alpha == 0xFF || alpha == 0 ? value : (value * 255 + alpha / 2) / alpha);
 }
 
-/// libpng's writer; errors of it are programming errors here, for nothing but memory is written to.
-class Writer {
- public:
-  explicit Writer(std::string& bytes)
-      : png_(png_create_write_struct(
-            PNG_LIBPNG_VER_STRING, nullptr,
-            [](png_structp, png_const_charp message) { foundation::fatalError(message); }, nullptr)),
-        info_(png_create_info_struct(png_)) {
-    png_set_write_fn(
-        png_, &bytes,
-        [](png_structp png, png_bytep data, png_size_t length) {
-          static_cast<std::string*>(png_get_io_ptr(png))->append(reinterpret_cast<const char*>(data), length);
-        },
-        nullptr);
-  }
-  ~Writer() { png_destroy_write_struct(&png_, &info_); }
-  Writer(const Writer&) = delete;
-  Writer& operator=(const Writer&) = delete;
+/// Bytes that nothing was written to yet: clearing them would take as long as drawing.
+struct Bytes {
+  explicit Bytes(std::size_t most) : data(std::make_unique_for_overwrite<char[]>(most)), size(most) {}
 
-  void write(const Pixels& pixels) {
-    const bool hasAlpha = !pixels.isOpaque();
-    png_set_compression_level(png_, 1);
-    png_set_filter(png_, PNG_FILTER_TYPE_BASE, PNG_FILTER_NONE);
-    png_set_IHDR(png_, info_, pixels.width, pixels.height, 8, hasAlpha ? PNG_COLOR_TYPE_RGBA : PNG_COLOR_TYPE_RGB,
-                 PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
-    png_write_info(png_, info_);
-    std::vector<png_byte> row(pixels.width * (hasAlpha ? 4ULL : 3ULL));
-    for (std::uint32_t y = 0; y < pixels.height; ++y) {
-      writeRow(pixels, y, hasAlpha, row.data());
-      png_write_row(png_, row.data());
-    }
-    png_write_end(png_, info_);
-  }
-
- private:
-  png_structp png_;
-  png_infop info_;
+  std::unique_ptr<char[]> data;
+  std::size_t size;
 };
+
+/// All rows, each behind its filter.
+Bytes rowsOf(const Pixels& pixels, bool hasAlpha) {
+  const std::size_t samples = hasAlpha ? 4 : 3;
+  Bytes rows((1 + pixels.width * samples) * pixels.height);
+  char* out = rows.data.get();
+  for (std::uint32_t y = 0; y < pixels.height; ++y) {
+    *out++ = noFilter;
+    for (std::uint32_t x = 0; x < pixels.width; ++x) {
+      const std::uint32_t word = pixels.at(x, y);
+      const std::uint32_t alpha = word >> 24;
+      *out++ = plain(word >> 16 & 0xFF, alpha);
+      *out++ = plain(word >> 8 & 0xFF, alpha);
+      *out++ = plain(word & 0xFF, alpha);
+      if (hasAlpha) *out++ = static_cast<char>(alpha);
+    }
+  }
+  return rows;
+}
+
+void appendNumber(std::string& bytes, std::uint32_t number) {
+  for (int shift = 24; shift >= 0; shift -= 8) bytes += static_cast<char>(number >> shift & 0xFF);
+}
+
+/// Length, type and data, and a check sum of the last two.
+void appendChunk(std::string& bytes, std::string_view type, std::string_view data) {
+  appendNumber(bytes, static_cast<std::uint32_t>(data.size()));
+  const std::size_t checked = bytes.size();
+  bytes += type;
+  bytes += data;
+  appendNumber(bytes, libdeflate_crc32(0, bytes.data() + checked, bytes.size() - checked));
+}
+
+Bytes compressed(const Bytes& rows) {
+  const Compressor compressor(libdeflate_alloc_compressor(compressionLevel));
+  if (!compressor) foundation::fatalError("no memory for a picture");
+  Bytes data(libdeflate_zlib_compress_bound(compressor.get(), rows.size));
+  data.size = libdeflate_zlib_compress(compressor.get(), rows.data.get(), rows.size, data.data.get(), data.size);
+  return data;
+}
 
 }  // namespace
 
@@ -97,8 +104,22 @@ std::string encodePNG(cairo_surface_t* surface) {
                       .stride = static_cast<std::size_t>(cairo_image_surface_get_stride(surface)),
                       .width = static_cast<std::uint32_t>(cairo_image_surface_get_width(surface)),
                       .height = static_cast<std::uint32_t>(cairo_image_surface_get_height(surface))};
-  std::string bytes;
-  Writer(bytes).write(pixels);
+  const bool hasAlpha = !pixels.isOpaque();
+  constexpr char bitsPerSample = 8;
+  constexpr char colors = 2;
+  constexpr char colorsAndAlpha = 6;
+  std::string header;
+  appendNumber(header, pixels.width);
+  appendNumber(header, pixels.height);
+  header += bitsPerSample;
+  header += hasAlpha ? colorsAndAlpha : colors;
+  header.append(3, '\0');  // the only compression, the only set of filters, rows in their order
+
+  const Bytes data = compressed(rowsOf(pixels, hasAlpha));
+  std::string bytes = "\x89PNG\r\n\x1a\n";
+  appendChunk(bytes, "IHDR", header);
+  appendChunk(bytes, "IDAT", {data.data.get(), data.size});
+  appendChunk(bytes, "IEND", {});
   return bytes;
 }
 

@@ -3,6 +3,7 @@
 #include <cairo-pdf.h>
 #include <cairo-svg.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "foundation/fatal_error.hpp"
@@ -37,6 +38,35 @@ void paint(const Scene& scene, cairo_t* cairo, const CairoPlayer& player) {
   player.play(scene.drawn);
 }
 
+/// Clears what lies outside of the widget's round corners. Pixels that stand for nothing else can be cut once at the
+/// end, which takes a fraction of the time of cutting each of the drawings.
+void clearCorners(const Scene& scene, cairo_t* cairo) {
+  const auto [width, height] = scene.size;
+  const double radius = std::min({scene.cornerRadius, width / 2, height / 2});
+  constexpr double beyond = 1;  // the edge may lie within a pixel
+  cairo_save(cairo);
+  cairo_set_operator(cairo, CAIRO_OPERATOR_CLEAR);
+  cairo_set_fill_rule(cairo, CAIRO_FILL_RULE_EVEN_ODD);
+  for (const swiftui::Point corner : {swiftui::Point{.x = -beyond, .y = -beyond},
+                                      {.x = width - radius, .y = -beyond},
+                                      {.x = -beyond, .y = height - radius},
+                                      {.x = width - radius, .y = height - radius}}) {
+    cairo_save(cairo);
+    cairo_rectangle(cairo, corner.x, corner.y, radius + beyond, radius + beyond);
+    cairo_clip_preserve(cairo);
+    addRoundedRectangle(cairo, {.origin = {}, .size = scene.size}, radius);
+    cairo_fill(cairo);
+    cairo_restore(cairo);
+  }
+  cairo_restore(cairo);
+}
+
+bool isOneWidget(const Composition& composition) {
+  return composition.ground.alpha <= 0 && composition.tiles.size() == 1 &&
+         composition.tiles.front().origin == swiftui::Point{} &&
+         composition.tiles.front().scene.size == composition.size;
+}
+
 void paint(const Composition& composition, cairo_surface_t* surface, double scale, const TextEngine& text,
            const AssetCatalog& assets) {
   const CairoHandle cairo(cairo_create(surface));
@@ -46,6 +76,12 @@ void paint(const Composition& composition, cairo_surface_t* surface, double scal
     cairo_paint(cairo.get());
   }
   const CairoPlayer player(cairo.get(), scale, text, assets);
+  if (cairo_surface_get_type(surface) == CAIRO_SURFACE_TYPE_IMAGE && isOneWidget(composition)) {
+    const Scene& scene = composition.tiles.front().scene;
+    player.play(scene.drawn);
+    if (scene.cornerRadius > 0) clearCorners(scene, cairo.get());
+    return check(cairo_status(cairo.get()));
+  }
   for (const Tile& tile : composition.tiles) {
     cairo_save(cairo.get());
     cairo_translate(cairo.get(), tile.origin.x, tile.origin.y);
