@@ -112,15 +112,15 @@ void expectMomentsOfEvents(const std::vector<EventEntry>& entries, const std::ve
   for (std::size_t i = 0; i < days.size(); ++i) {
     ASSERT_NE(entry, entries.end());
     ASSERT_EQ(entry->date, daily[i].date);
+    const EventList all = entry->data;
     std::set<Date> wanted = {entry->date};
-    for (const EventWidgetInner& event : entry->data) wanted.insert({*event.starttime, *event.endtime});
+    for (const EventWidgetInner& event : all) wanted.insert({*event.starttime, *event.endtime});
     std::set<Date> met;
     for (; entry != entries.end() && met.size() < wanted.size(); ++entry) {
       EXPECT_TRUE(met.insert(entry->date).second) << "twice";
-      for (const EventWidgetInner& event : entry->data) {
-        EXPECT_EQ(event.title, days[i]);
-        EXPECT_TRUE(event.allday || *event.endtime > entry->date);
-      }
+      const auto isLeft = [&](const auto& event) { return event.allday || *event.endtime > entry->date; };
+      EXPECT_EQ(std::ranges::distance(entry->data), std::ranges::count_if(all, isLeft));
+      for (const EventWidgetInner& event : entry->data) EXPECT_TRUE(isLeft(event) && event.title == days[i]);
     }
     EXPECT_EQ(met, wanted);
   }
