@@ -1,5 +1,7 @@
 #include "host/live/container_files.hpp"
 
+#include <unistd.h>
+
 #include <functional>
 
 #include "foundation/file_manager.hpp"
@@ -51,8 +53,9 @@ ContainerFiles ContainerFiles::of(const fs::path& container, const ContainerFile
     const std::string name = entry.path().filename().string();
     File file{.size = static_cast<std::int64_t>(entry.file_size(unknown)), .modified = entry.last_write_time(unknown)};
     const auto known = before.files_.find(name);
-    if (known != before.files_.end() && known->second.size == file.size && known->second.modified == file.modified &&
-        !before.isHalfWritten_) {
+    const bool isKnown = known != before.files_.end() && known->second.size == file.size &&
+                         known->second.modified == file.modified && known->second.content && !before.isHalfWritten_;
+    if (isKnown && ::access(entry.path().c_str(), R_OK) == 0) {
       file.content = known->second.content;
     } else if (const auto bytes = foundation::readFile(entry.path())) {
       file.content = std::hash<std::string>()(*bytes);

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <string>
 
 namespace host {
@@ -30,7 +31,7 @@ class ContainerFiles {
   struct File {
     std::int64_t size = 0;
     std::filesystem::file_time_type modified = {};
-    std::size_t content = 0;  ///< a hash
+    std::optional<std::size_t> content = std::nullopt;  ///< a hash; absent where it cannot be read
   };
 
   std::map<std::string, File> files_ = {};

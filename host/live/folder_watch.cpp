@@ -19,8 +19,8 @@ namespace {
 
 constexpr std::chrono::milliseconds calm(200);
 constexpr std::chrono::milliseconds longestBurst(2000);
-constexpr std::uint32_t changes =
-    IN_CLOSE_WRITE | IN_CREATE | IN_DELETE | IN_MOVED_FROM | IN_MOVED_TO | IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR;
+constexpr std::uint32_t changes = IN_CLOSE_WRITE | IN_ATTRIB | IN_CREATE | IN_DELETE | IN_MOVED_FROM | IN_MOVED_TO |
+                                  IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR;
 
 int openEvents() {
   const int descriptor = inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
@@ -35,12 +35,19 @@ FolderWatch::FolderWatch(const asio::any_io_executor& executor, std::vector<std:
   arm();
 }
 
+std::filesystem::path FolderWatch::watchNearest(std::filesystem::path folder) {
+  // Watching a folder once more changes nothing.
+  while (inotify_add_watch(events_.native_handle(), folder.c_str(), changes) < 0 && folder.has_relative_path()) {
+    folder = folder.parent_path();
+  }
+  return folder;
+}
+
 void FolderWatch::arm() {
-  for (std::filesystem::path folder : folders_) {
-    // Watching a folder once more changes nothing.
-    while (inotify_add_watch(events_.native_handle(), folder.c_str(), changes) < 0 && folder.has_relative_path()) {
-      folder = folder.parent_path();
-    }
+  for (const std::filesystem::path& folder : folders_) {
+    // A folder that comes before the one above it is watched is told of by nobody.
+    std::filesystem::path before;
+    for (auto nearest = watchNearest(folder); nearest != before; nearest = watchNearest(folder)) before = nearest;
   }
 }
 

@@ -9,8 +9,9 @@
 
 namespace host {
 
-/// Tells when something changes in folders: a file is written, replaced or removed in one of them, or one of them comes
-/// or goes. A folder that is not there is waited for in the nearest one above it that is.
+/// Tells when something changes in folders: a file is written, replaced or removed in one of them, one of them comes
+/// or goes, or who may read it changes. A folder that is not there, or not for us, is waited for in the nearest one
+/// above it that is.
 class FolderWatch {
  public:
   FolderWatch(const boost::asio::any_io_executor& executor, std::vector<std::filesystem::path> folders);
@@ -21,6 +22,8 @@ class FolderWatch {
 
  private:
   void arm();
+  /// Watches the folder or the nearest one above it that can be watched, which is returned.
+  std::filesystem::path watchNearest(std::filesystem::path folder);
 
   std::vector<std::filesystem::path> folders_;
   boost::asio::posix::stream_descriptor events_;

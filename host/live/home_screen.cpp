@@ -8,6 +8,7 @@
 #include "foundation/iso8601.hpp"
 #include "host/live/extension_messages.hpp"
 #include "schedule/next_midnight.hpp"
+#include "schedule/retry_pause.hpp"
 
 namespace host {
 
@@ -94,6 +95,7 @@ void HomeScreen::updateKinds(Date now, Date midnight) {
 
 void HomeScreen::updateWidgets(Date now) {
   for (ShownWidget& widget : widgets_) {
+    if (widget.retryAt) widget.retryAt = retryMoment(*widget.retryAt, widget.failures, now);
     if (widget.retryAt && *widget.retryAt <= now) widget.retryAt.reset();
     const KindTimeline& kind = kinds_.at(widget.placed.kind);
     const auto& entries = kind.timeline.entries;

@@ -3,21 +3,22 @@
 #include <signal.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <chrono>
-#include <functional>
 #include <thread>
 
 #include "home/home_store.hpp"
 #include "home/listing.hpp"
+#include "support/forked.hpp"
 #include "support/temporary_folder.hpp"
 
 namespace {
 
 using home::HomeStore;
 using home::Place;
+using support::inChild;
+using support::statusOf;
 
 /// As long as it lives, no file of this process can grow beyond a size, as on a full disk.
 class FileSizeLimit {
@@ -38,20 +39,6 @@ class FileSizeLimit {
   rlimit before_ = {};
   sighandler_t handler_;
 };
-
-/// Runs an action in a process of its own.
-pid_t inChild(const std::function<void()>& action) {
-  const pid_t child = ::fork();
-  if (child != 0) return child;
-  action();
-  ::_exit(testing::Test::HasFailure() ? 1 : 0);
-}
-
-int statusOf(pid_t child) {
-  int status = 0;
-  ::waitpid(child, &status, 0);
-  return status;
-}
 
 /// Wherever the disk becomes full, a change is made as a whole or refused.
 TEST(FullDisk, RefusesChangesAndLosesNothing) {

@@ -47,6 +47,7 @@ TEST(ExtensionProcess, ExplainsEveryWayToFailAndLeavesNoProcess) {
       {"wrongFields", 20s, "the widget extension sent an answer that cannot be read"},
       {"hang", 200ms, "the widget extension did not answer within 0.2 s"},
       {"halfFrameHang", 200ms, "the widget extension did not answer within 0.2 s"},
+      {"suspend", 200ms, "the widget extension did not answer within 0.2 s"},
   };
   for (const auto& each : cases) {
     auto extension = fake(each.timeLimit);

@@ -43,6 +43,7 @@ void flood() {
 /// What happens before the answer, which may then never come.
 const std::map<std::string, void (*)()> misbehaviours = {
     {"hang", [] { hang(); }},
+    {"suspend", [] { raise(SIGSTOP); }},
     {"die", [] { complain("first line\nitem 7 has no identifier\n\n"), _exit(70); }},
     {"dieSilently", [] { _exit(3); }},
     {"crash", [] { raise(SIGKILL); }},

@@ -1,4 +1,5 @@
 #include "program.hpp"
+#include "support/ordinary_rights.hpp"
 #include "support/recorded_cases.hpp"
 
 namespace program {
@@ -74,7 +75,10 @@ TEST_F(BadInput, FallsBackWhereThereIsNothingToRead) {
   support::writeBytes(folder / "file", "no folder");
   std::filesystem::create_directories(folder / "folders/tasks.json");
   support::writeBytes(folder / "damaged/Library/Preferences/group.quorvanthimble.app.plist", "damaged");
-  for (const std::string container : {"missing", "file", "empty", "folders", "damaged", ""}) {
+  support::writeBytes(folder / "closed/tasks.json", json{{day, {item("out of reach")}}}.dump());
+  std::filesystem::permissions(folder / "closed", std::filesystem::perms::none);
+  support::startWithOrdinaryRights();
+  for (const std::string container : {"missing", "file", "empty", "folders", "damaged", "closed", ""}) {
     SCOPED_TRACE(container);
     const World there{.container = container};
     const auto timeline = jsonOutput(run(folder.path(), "timeline tasks --json" + there.options()));
@@ -85,6 +89,7 @@ TEST_F(BadInput, FallsBackWhereThereIsNothingToRead) {
     EXPECT_EQ(support::readBytes(folder / "out.txt"), "Tasks\nSaturday, November 21\nNo more tasks today\n");
     std::filesystem::remove(folder / "out.txt");
   }
+  std::filesystem::permissions(folder / "closed", std::filesystem::perms::owner_all);
   EXPECT_EQ(support::readBytes(folder / "damaged/Library/Preferences/group.quorvanthimble.app.plist"), "damaged");
 }
 

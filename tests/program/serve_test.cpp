@@ -132,30 +132,46 @@ TEST_F(LiveServer, ArrangesWidgets) {
 }
 
 TEST_F(LiveServer, FollowsItsContainer) {
-  json before = drawnState();
-  const auto picture = [&](const json& of) { return widget(of, "events", "systemMedium")["picture"]; };
-  const auto changesAfter = [&](const char* what, const std::function<void()>& step) {
-    step();
-    EXPECT_TRUE(comesTrue([&] { return picture(state()) != picture(before); })) << what;
-    before = drawnState();
-  };
+  drawnState();
   std::filesystem::create_directories(folder / "empty");
   writeDemo("other");
+  const auto container = folder / "container";
+  const auto file = container / "events.json";
   const auto replace = [&](const char* by) {
-    std::filesystem::rename(folder / "container", folder / (std::string("was-") + by));
-    std::filesystem::rename(folder / by, folder / "container");
+    std::filesystem::rename(container, folder / (std::string("was-") + by));
+    std::filesystem::rename(folder / by, container);
   };
-  changesAfter("an empty folder instead", [&] { replace("empty"); });
-  changesAfter("the demo again", [&] { replace("other"); });
-  changesAfter("a file gone", [&] { std::filesystem::remove(folder / "container/events.json"); });
-  changesAfter("the file back",
-               [&] { std::filesystem::rename(folder / "was-empty/events.json", folder / "container/events.json"); });
-  changesAfter("another icon by a name that pictures know", [&] {
-    support::writeBytes(folder / "container/icons/cat-circle_birthday.svg",
-                        R"(<svg xmlns="http://www.w3.org/2000/svg" width="40" height="40"/>)");
-  });
-  changesAfter("all gone", [&] { std::filesystem::remove_all(folder / "container"); });
-  changesAfter("all back", [&] { writeDemo("container"); });
+  const auto close = [](const auto& path) { std::filesystem::permissions(path, std::filesystem::perms::none); };
+  const auto open = [](const auto& path) { std::filesystem::permissions(path, std::filesystem::perms::owner_all); };
+  const struct {
+    const char* what;
+    std::function<void()> change;
+    bool hasEvents;
+  } steps[] = {
+      {"an empty folder instead", [&] { replace("empty"); }, false},
+      {"the demo again", [&] { replace("other"); }, true},
+      {"the file gone", [&] { std::filesystem::remove(file); }, false},
+      {"the file back", [&] { std::filesystem::rename(folder / "was-empty/events.json", file); }, true},
+      {"the file closed", [&] { close(file); }, false},
+      {"the file open", [&] { open(file); }, true},
+      {"the folder closed", [&] { close(container); }, false},
+      {"the folder open", [&] { open(container); }, true},
+      {"all gone", [&] { std::filesystem::remove_all(container); }, false},
+      {"all back", [&] { writeDemo("container"); }, true},
+  };
+  for (const auto& [what, change, hasEvents] : steps) {
+    change();
+    EXPECT_TRUE(comesTrue([&] {
+      const std::string meaning = widget(state(), "events", "systemMedium")["meaning"].dump();
+      return meaning.contains("No more events today") != hasEvents;
+    })) << what;
+  }
+
+  const auto picture = [](const json& of) { return of["widgets"][0]["picture"]; };
+  const json before = drawnState();
+  support::writeBytes(container / "icons/cat-circle_birthday.svg",
+                      R"(<svg xmlns="http://www.w3.org/2000/svg" width="40" height="40"/>)");
+  EXPECT_TRUE(comesTrue([&] { return picture(state()) != picture(before); })) << "an icon by a name that pictures know";
 }
 
 TEST_F(LiveServer, TellsOfChanges) {

@@ -14,6 +14,7 @@
 #include "program.hpp"
 #include "support/child_processes.hpp"
 #include "support/http_client.hpp"
+#include "support/ordinary_rights.hpp"
 
 namespace program {
 
@@ -52,6 +53,7 @@ class Server {
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, pipe[1], STDOUT_FILENO);
     posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, errorFile_.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    support::startWithOrdinaryRights();
     posix_spawn(&id_, MIRUNE_PROGRAM, &actions, nullptr, pointers(arguments).data(), pointers(variables).data());
     posix_spawn_file_actions_destroy(&actions);
     ::close(pipe[1]);

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "schedule/fake_widgets.hpp"
+#include "schedule/retry_pause.hpp"
 
 namespace host {
 namespace {
@@ -76,6 +77,13 @@ TEST(FailingRequests, DoNotWaitForAClockThatWasPutBack) {
   const auto asked = widget.host.sent().size();
   widget.host.runFor(hours(1));
   EXPECT_EQ(widget.host.sent().size(), asked + 3) << "every 15 minutes by the new clock";
+}
+
+TEST(RetryMoment, DoesNotWaitForAClockThatWasPutBack) {
+  const Date planned = start + retryPause(3);
+  EXPECT_EQ(retryMoment(planned, 3, start + seconds(1)), planned);
+  EXPECT_EQ(retryMoment(planned, 3, start + hours(1)), planned);
+  EXPECT_EQ(retryMoment(planned, 3, start - hours(24 * 365)), start - hours(24 * 365) + seconds(4));
 }
 
 }  // namespace

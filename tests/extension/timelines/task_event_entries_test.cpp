@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <numeric>
+#include <random>
+
 #include "planner.hpp"
 
 namespace mirune {
@@ -58,6 +61,41 @@ TEST(TaskEventEntries, PairWhatBothSidesShow) {
   for (const auto& row : rows) {
     EXPECT_EQ(linesOf(merged(entriesAt<TaskEntry>(row.tasks), entriesAt<EventEntry>(row.events), fallback)), row.lines)
         << row.name;
+  }
+}
+
+/// Every moment of either side with the last of each that has come by then, found in the plainest way.
+std::vector<std::string> pairsOf(const std::vector<TaskEntry>& tasks, const std::vector<EventEntry>& events) {
+  std::vector<TaskEventEntry> pairs;
+  for (int at = 0; at < 30; ++at) {
+    TaskEventEntry pair = fallback;
+    pair.date = minute(at);
+    bool isMoment = false;
+    for (int past = 0; past <= at; ++past) {
+      for (const TaskEntry& each : tasks) {
+        if (each.date == minute(past)) pair.taskEntry = each, isMoment |= past == at;
+      }
+      for (const EventEntry& each : events) {
+        if (each.date == minute(past)) pair.eventEntry = each, isMoment |= past == at;
+      }
+    }
+    if (isMoment) pairs.push_back(pair);
+  }
+  return linesOf(pairs);
+}
+
+TEST(TaskEventEntries, PairWhatASearchFinds) {
+  std::mt19937 random(20261121);
+  std::vector<int> minutes(30);
+  std::iota(minutes.begin(), minutes.end(), 0);
+  const auto some = [&] {
+    std::ranges::shuffle(minutes, random);
+    return std::vector(minutes.begin(), minutes.begin() + static_cast<std::ptrdiff_t>(random() % 20));
+  };
+  for (int round = 0; round < 1000; ++round) {
+    const auto tasks = entriesAt<TaskEntry>(some());
+    const auto events = entriesAt<EventEntry>(some());
+    ASSERT_EQ(linesOf(merged(tasks, events, fallback)), pairsOf(tasks, events)) << "round " << round;
   }
 }
 
