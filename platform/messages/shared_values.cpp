@@ -1,5 +1,8 @@
 #include "messages/shared_values.hpp"
 
+#include <array>
+#include <span>
+
 namespace messages {
 
 using foundation::JSON;
@@ -8,12 +11,15 @@ namespace {
 
 constexpr auto referenceName = "$shared";
 
-JSON referenced(const JSON& numbers, const std::vector<JSON>& shared) {
+JSON referenced(const JSON& runs, const std::vector<JSON>& shared) {
   JSON values = JSON::array();
-  for (const JSON& number : numbers) {
-    const auto index = number.get<std::size_t>();
-    if (index >= shared.size()) throw JSON::out_of_range::create(401, "a shared value is missing", &number);
-    values.push_back(shared[index]);
+  for (const JSON& run : runs) {
+    const auto first = run.at(0).get<std::size_t>();
+    const auto count = run.at(1).get<std::size_t>();
+    if (first > shared.size() || count > shared.size() - first) {
+      throw JSON::out_of_range::create(401, "a shared value is missing", &run);
+    }
+    for (const JSON& value : std::span(shared).subspan(first, count)) values.push_back(value);
   }
   return values;
 }
@@ -27,7 +33,12 @@ std::size_t SharedValues::numberOf(const void* address, const std::function<JSON
 }
 
 JSON SharedValues::reference(const std::vector<std::size_t>& numbers) {
-  return {{referenceName, numbers}};
+  std::vector<std::array<std::size_t, 2>> runs;  // each a first number and how many follow one another from it on
+  for (const std::size_t number : numbers) {
+    if (runs.empty() || number != runs.back()[0] + runs.back()[1]) runs.push_back({number, 0});
+    ++runs.back()[1];
+  }
+  return {{referenceName, runs}};
 }
 
 JSON withSharedValues(const JSON& entry, const std::vector<JSON>& shared) {

@@ -1,14 +1,14 @@
 #pragma once
 
 #include <functional>
-#include <map>
+#include <unordered_map>
 #include <vector>
 
 #include "foundation/json.hpp"
 
 // Entries of one timeline may hold the same values over and over: a day of 500 events has up to 1001 entries with half
-// of them each. Such values travel once, beside the entries; in an entry {"$shared": [3, 4]} stands for the array of
-// the values of these numbers.
+// of them each. Such values travel once, beside the entries; in an entry {"$shared": [[3, 2], [7, 1]]} stands for the
+// array of the values of the numbers 3, 4 and 7: two from 3 on, one from 7 on.
 
 namespace messages {
 
@@ -25,7 +25,7 @@ class SharedValues {
   std::vector<foundation::JSON> take() { return std::move(values_); }
 
  private:
-  std::map<const void*, std::size_t> numbers_ = {};
+  std::unordered_map<const void*, std::size_t> numbers_ = {};
   std::vector<foundation::JSON> values_ = {};
 };
 

@@ -37,7 +37,8 @@ TEST(SharedValues, AreAskedForOnceAndPutBackInTheirPlaces) {
 }
 
 TEST(SharedValues, AreRefusedWhereOneIsMissing) {
-  for (const char* reference : {R"({"$shared": [1]})", R"({"$shared": ["a"]})", R"({"$shared": [-1]})"}) {
+  for (const char* reference : {R"({"$shared": [[1, 1]]})", R"({"$shared": [[0, 2]]})", R"({"$shared": [["a", 1]]})",
+                                R"({"$shared": [[-1, 2]]})", R"({"$shared": [[0]]})", R"({"$shared": [0]})"}) {
     EXPECT_THROW(withSharedValues(JSON::parse(reference), {JSON("one")}), JSON::exception) << reference;
   }
 }

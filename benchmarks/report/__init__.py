@@ -1,0 +1,1 @@
+"""How the scripts of this folder measure and what they print."""
