@@ -9,11 +9,12 @@ pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
 pkg_check_modules(CAIRO REQUIRED cairo-ft)
 pkg_check_modules(FONTS REQUIRED IMPORTED_TARGET fontconfig freetype2)
 pkg_check_modules(HARFBUZZ REQUIRED IMPORTED_TARGET harfbuzz)
+pkg_check_modules(ICU REQUIRED icu-i18n)
 pkg_check_modules(RSVG REQUIRED librsvg-2.0)
 find_package(SQLiteCpp REQUIRED)
 
 # The programs start often and do little each time, and a shared library costs a process more than its code: those that
-# have an archive are linked from it into targets with the property MIRUNE_ARCHIVES. ICU brings its tables along.
+# have an archive are linked from it into targets with the property MIRUNE_ARCHIVES.
 define_property(TARGET PROPERTY MIRUNE_ARCHIVES BRIEF_DOCS "Link what has one from its archive")
 function(mirune_library name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SHARED;ARCHIVES")
@@ -28,7 +29,7 @@ mirune_library(abseil
   ARCHIVES absl_time absl_civil_time absl_time_zone absl_strings absl_strings_internal absl_int128 absl_base
            absl_spinlock_wait absl_throw_delegate absl_raw_logging_internal absl_log_severity)
 mirune_library(deflate SHARED deflate ARCHIVES deflate)
-mirune_library(icu SHARED icui18n icuuc ARCHIVES icui18n icuuc icudata)
+mirune_library(icu SHARED icui18n icuuc ARCHIVES icui18n icuuc)
 
 # The screens that Cairo can draw on bring ten libraries along; from the archive nobody asks for them. librsvg comes with
 # the shared Cairo and has to draw with this one: what the program defines and exports goes before what a library does.

@@ -3,10 +3,12 @@
 #include <cstring>
 #include <string>
 
+#include "foundation/icu_tables.hpp"
 #include "host/commands/command_line.hpp"
 #include "host/standard_streams.hpp"
 
 int main(int argc, char** argv) {
+  foundation::openICUTables();
   host::reserveStandardDescriptors();
   const auto result = host::runCommandLine({argv + (argc > 0), argv + argc}, host::currentSurroundings());
   host::writeAll(STDERR_FILENO, result.error);

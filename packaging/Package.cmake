@@ -1,8 +1,9 @@
 # The fonts that are asked for by name are those of the roster.
 file(READ "${CMAKE_SOURCE_DIR}/resources/fonts/roster.json" roster)
 string(JSON system_font GET "${roster}" system package)
-# librsvg is opened when it is needed, which nobody sees who looks for libraries.
-set(depends "${system_font}" librsvg2-2 tzdata)
+# librsvg and ICU's tables are opened by name, which nobody sees who looks for libraries.
+string(REGEX MATCH "^[0-9]+" icu "${ICU_VERSION}")
+set(depends "${system_font}" "libicu${icu}" librsvg2-2 tzdata)
 foreach(list fallback fonts)
   string(JSON count LENGTH "${roster}" ${list})
   math(EXPR last "${count} - 1")

@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "catalogue/widgets_bundle.hpp"
+#include "foundation/icu_tables.hpp"
 #include "widgetkit/extension_loop.hpp"
 
 namespace {
@@ -28,6 +29,7 @@ void keepFreedMemory() {
 
 int main() {
   keepFreedMemory();
+  foundation::openICUTables();
   const auto resources = resourcesFolder();
   return widgetkit::runBundle(mirune::Mirune_WidgetsColl(resources), {.folder = resources});
 }
