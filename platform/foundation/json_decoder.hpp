@@ -38,8 +38,12 @@ void decode(JSONValue& value, Date& date);
 
 template <class Element>
 void decode(JSONValue& value, std::vector<Element>& elements) {
+  constexpr std::size_t usualSize = 8;  // of the lists of a day: few grow further
   elements.clear();
-  value.forEachElement([&](JSONValue& element) { decode(element, elements.emplace_back()); });
+  value.forEachElement([&](JSONValue& element) {
+    if (elements.empty()) elements.reserve(usualSize);
+    decode(element, elements.emplace_back());
+  });
 }
 
 template <class Mapped, class Compare>
