@@ -13,11 +13,11 @@ namespace benchmarks {
 /// The moment at which the files are read: of ten years of days, the fifteen days from here on are the last ones.
 foundation::Date readingMoment();
 
-/// A file of items, at least so many bytes long: a day with meetings after the other.
+/// A file of items, at least so many bytes long: day after day of events.
 std::string eventsOfSize(std::size_t bytes);
 
 /// Writes ten years of a planner into a folder: tasks that come back, habits with the streaks in which they were kept,
-/// events, a mood on most days. About 100 000 items and 25 MB.
+/// events, a mood on most days. About 100 000 items and 22 MB.
 void writeTenYears(const std::filesystem::path& folder);
 
 }  // namespace benchmarks
