@@ -3,7 +3,7 @@
 #include "shared/item_files.hpp"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const auto file = foundation::decodeJSON<mirune::ItemFile>(fuzzing::textOf(data, size));
+  const auto file = foundation::decodeJSON<mirune::ItemFile>(std::string(fuzzing::textOf(data, size)));
   if (!file) return 0;
   for (const auto& [day, items] : *file) {
     fuzzing::require(&mirune::itemsUnder(*file, day) == &items, "a day's items are found");

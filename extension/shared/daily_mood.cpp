@@ -4,7 +4,7 @@
 
 namespace mirune {
 
-void decode(foundation::JSONValue value, MiruneDailyMood& mood) {
+void decode(foundation::JSONValue& value, MiruneDailyMood& mood) {
   foundation::decodeObject(value, foundation::required("id", mood.id), foundation::required("name", mood.name),
                            foundation::required("icon", mood.icon), foundation::required("color", mood.color),
                            foundation::required("isOriginalColor", mood.isOriginalColor),
@@ -12,9 +12,9 @@ void decode(foundation::JSONValue value, MiruneDailyMood& mood) {
 }
 
 MoodFile readMoodFile(const uikit::Platform& platform) {
-  const auto bytes = GroupDataManager::read(platform, "moods");
+  auto bytes = GroupDataManager::read(platform, "moods");
   if (!bytes) return {};
-  return foundation::decodeJSON<MoodFile>(*bytes).value_or(MoodFile{});
+  return foundation::decodeJSON<MoodFile>(std::move(*bytes)).value_or(MoodFile{});
 }
 
 }  // namespace mirune

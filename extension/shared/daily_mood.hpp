@@ -20,7 +20,7 @@ struct MiruneDailyMood {
 };
 
 /// All members are required.
-void decode(foundation::JSONValue value, MiruneDailyMood& mood);
+void decode(foundation::JSONValue& value, MiruneDailyMood& mood);
 
 /// The moods of the days, by day key ("2026/11/21"); each day carries its whole mood.
 using MoodFile = std::map<std::string, MiruneDailyMood, std::less<>>;

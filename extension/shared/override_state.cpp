@@ -19,7 +19,7 @@ std::string encodeOverrideState(const OverrideState& state) {
 }
 
 std::optional<OverrideState> decodeOverrideState(std::string_view bytes) {
-  auto state = foundation::decodeJSON<OverrideState>(bytes);
+  auto state = foundation::decodeJSON<OverrideState>(std::string(bytes));
   return state ? std::optional(std::move(*state)) : std::nullopt;
 }
 

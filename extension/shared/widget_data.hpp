@@ -27,9 +27,9 @@ struct WidgetData {
 };
 
 /// A number that is no type is refused.
-void decode(foundation::JSONValue value, WidgetDataType& type);
+void decode(foundation::JSONValue& value, WidgetDataType& type);
 
 /// All members but colorHex are required.
-void decode(foundation::JSONValue value, WidgetData& item);
+void decode(foundation::JSONValue& value, WidgetData& item);
 
 }  // namespace mirune

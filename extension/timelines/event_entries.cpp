@@ -124,7 +124,7 @@ class Countdown {
 std::vector<EventEntry> eventEntries(const uikit::Platform& platform) {
   // The offset is fixed before any file is read, as the planner expects of the first request.
   const std::int64_t offset = fixedColorOffset(platform);
-  const ItemFile items = readItemFile(platform, "events");
+  const ItemFile items = readItemFile(platform, "events", shownDayKeys(platform));
   const auto& calendar = platform.calendar;
   EventsOfDay eventsOfDay(platform);
   const std::string name = platform.words.localized("Events");

@@ -58,14 +58,15 @@ std::vector<TaskEntry> entriesOf(const ListKind& kind, std::int64_t offset, cons
 std::vector<TaskEntry> taskEntries(const uikit::Platform& platform) {
   // The offset is fixed before any file is read, as the planner expects of the first request.
   const std::int64_t offset = fixedColorOffset(platform);
-  Items items{.byDay = readItemFile(platform, "tasks")};
-  items.everyDay = itemsUnder(readItemFile(platform, "pendingtasks"), "tasks");
+  Items items{.byDay = readItemFile(platform, "tasks", shownDayKeys(platform))};
+  constexpr auto pendingKey = "tasks";
+  items.everyDay = itemsUnder(readItemFile(platform, "pendingtasks", {pendingKey}), pendingKey);
   return entriesOf(tasks, offset, items, platform);
 }
 
 std::vector<TaskEntry> habitEntries(const uikit::Platform& platform) {
   const std::int64_t offset = fixedColorOffset(platform);
-  return entriesOf(habits, offset, {.byDay = readItemFile(platform, "habits")}, platform);
+  return entriesOf(habits, offset, {.byDay = readItemFile(platform, "habits", shownDayKeys(platform))}, platform);
 }
 
 }  // namespace mirune

@@ -98,17 +98,15 @@ std::expected<std::string, std::error_code> readFile(const std::filesystem::path
   if (!S_ISREG(status.st_mode)) return std::unexpected(std::make_error_code(std::errc::invalid_argument));
 
   constexpr std::size_t smallestRead = 4096;
-  std::string bytes;
+  // More than expected, so that the end of the file shows before the text has to grow.
+  std::string bytes(static_cast<std::size_t>(status.st_size) + roomBehindFile, '\0');
   std::size_t size = 0;
-  // One byte more than expected, so that the end of the file shows in the first read.
-  std::size_t room = static_cast<std::size_t>(status.st_size) + 1;
   while (true) {
-    bytes.resize(size + room);
-    const ssize_t count = retried([&] { return ::read(file.get(), bytes.data() + size, room); });
+    if (size == bytes.size()) bytes.resize(size + std::max(size, smallestRead));
+    const ssize_t count = retried([&] { return ::read(file.get(), bytes.data() + size, bytes.size() - size); });
     if (count < 0) return lastError();
-    size += static_cast<std::size_t>(count);
     if (count == 0) break;
-    room = std::max(bytes.size() - size, smallestRead);
+    size += static_cast<std::size_t>(count);
   }
   bytes.resize(size);
   return bytes;

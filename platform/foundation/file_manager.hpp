@@ -12,6 +12,9 @@
 
 namespace foundation {
 
+/// How much a text from readFile may grow, in bytes, before it is moved: enough for decodeJSON.
+inline constexpr std::size_t roomBehindFile = 128;
+
 /// Reads the whole of a regular file, or says why not. A file that grows or shrinks meanwhile gives what was read.
 std::expected<std::string, std::error_code> readFile(const std::filesystem::path& path);
 

@@ -13,7 +13,7 @@ constexpr std::int64_t julianEpoch = -719'470;     // 0000-03-01 Julian
 constexpr std::int64_t firstGregorianDay = -141'427;
 
 std::int64_t flooredQuotient(std::int64_t a, std::int64_t b) {
-  return (a - (((a % b) + b) % b)) / b;
+  return a / b - (a % b < 0 ? 1 : 0);
 }
 
 struct MarchYear {

@@ -15,6 +15,10 @@ using std::chrono::minutes;
 using std::chrono::seconds;
 using std::chrono::sys_days;
 
+bool isDigit(char byte) {
+  return byte >= '0' && byte <= '9';
+}
+
 char lowercase(char byte) {
   return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
 }
@@ -46,7 +50,7 @@ class Scanner {
   std::optional<std::int64_t> takeNumber(std::size_t maximalDigits) {
     std::int64_t number = 0;
     std::size_t count = 0;
-    while (count < rest_.size() && rest_[count] >= '0' && rest_[count] <= '9') {
+    while (count < rest_.size() && isDigit(rest_[count])) {
       if (count == maximalDigits) return std::nullopt;
       number = number * 10 + (rest_[count] - '0');
       ++count;
@@ -104,14 +108,38 @@ std::optional<seconds> takeZone(Scanner& text) {
   return takeOffset(text);
 }
 
+bool isDayOfAnyMonth(std::int64_t month, std::int64_t day) {
+  return month >= 1 && month <= 12 && day >= 1 && day <= 31;
+}
+
+std::chrono::sys_seconds secondAt(const CivilDay& civil, seconds time) {
+  return sys_days(days(daysSince1970(civil))) + time;
+}
+
+/// "2024-03-07T10:00:00Z" and nothing else: how nearly all dates are written.
+std::optional<std::chrono::sys_seconds> usualDateTime(std::string_view text) {
+  constexpr std::size_t size = 20;
+  if (text.size() != size) return std::nullopt;
+  bool fits =
+      text[4] == '-' && text[7] == '-' && text[10] == 'T' && text[13] == ':' && text[16] == ':' && text[19] == 'Z';
+  const auto pairAt = [&](std::size_t at) {
+    fits &= isDigit(text[at]) && isDigit(text[at + 1]);
+    return (text[at] - '0') * 10 + (text[at + 1] - '0');
+  };
+  const CivilDay civil = {.year = pairAt(0) * 100 + pairAt(2), .month = pairAt(5), .day = pairAt(8)};
+  const auto time = hours(pairAt(11)) + minutes(pairAt(14)) + seconds(pairAt(17));
+  if (!fits || !isDayOfAnyMonth(civil.month, civil.day)) return std::nullopt;
+  return secondAt(civil, time);
+}
+
 /// "2024-03-07T10:00:00": UTC, as if the zone were it.
 std::optional<std::chrono::sys_seconds> takeDateTime(Scanner& text) {
   const auto year = text.takeNumber(maximalDigits);
   if (!year || *year > maximalYear || !text.take('-')) return std::nullopt;
   const auto month = text.takeNumber(maximalDigits);
-  if (!month || *month < 1 || *month > 12 || !text.take('-')) return std::nullopt;
+  if (!month || !text.take('-')) return std::nullopt;
   const auto day = text.takeNumber(maximalDigits);
-  if (!day || *day < 1 || *day > 31 || !text.take('T')) return std::nullopt;
+  if (!day || !isDayOfAnyMonth(*month, *day) || !text.take('T')) return std::nullopt;
   const auto hour = text.takeNumber(2);
   if (!hour || !text.take(':')) return std::nullopt;
   const auto minute = text.takeNumber(2);
@@ -119,7 +147,7 @@ std::optional<std::chrono::sys_seconds> takeDateTime(Scanner& text) {
   const auto second = text.takeNumber(2);
   if (!second) return std::nullopt;
   const CivilDay civil = {.year = *year, .month = static_cast<int>(*month), .day = static_cast<int>(*day)};
-  return sys_days(days(daysSince1970(civil))) + hours(*hour) + minutes(*minute) + seconds(*second);
+  return secondAt(civil, hours(*hour) + minutes(*minute) + seconds(*second));
 }
 
 std::string dateTimeText(Date date) {
@@ -137,6 +165,7 @@ std::string dateTimeText(Date date) {
 }  // namespace
 
 std::optional<Date> parseISO8601(std::string_view text) {
+  if (const auto usual = usualDateTime(text)) return *usual;
   Scanner scanner(text);
   const auto wallClock = takeDateTime(scanner);
   if (!wallClock) return std::nullopt;

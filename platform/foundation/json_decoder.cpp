@@ -1,43 +1,32 @@
 #include "foundation/json_decoder.hpp"
 
-#include <cstring>
 #include <memory>
 
+#include "foundation/file_manager.hpp"
 #include "foundation/iso8601.hpp"
 
 namespace foundation {
 namespace {
 
-/// The parser and the copy of the text that it needs room behind. Kept for the thread's next text.
-struct Workspace {
-  simdjson::ondemand::parser parser;
-  std::string text = {};
-};
+constexpr std::size_t largestKeptParser = 8 * 1024 * 1024;  // bytes of text
 
-constexpr std::size_t largestKeptText = 8 * 1024 * 1024;
+thread_local std::unique_ptr<simdjson::ondemand::parser> spareParser;
 
-thread_local std::unique_ptr<Workspace> spareWorkspace;
-
-/// Borrows the thread's workspace, so that a text may be decoded while another one is.
-class WorkspaceLease {
+/// Borrows the thread's parser, so that a text may be decoded while another one is.
+class ParserLease {
  public:
-  WorkspaceLease() : workspace_(spareWorkspace ? std::move(spareWorkspace) : std::make_unique<Workspace>()) {}
-  ~WorkspaceLease() {
-    if (workspace_->text.capacity() <= largestKeptText) spareWorkspace = std::move(workspace_);
+  ParserLease() : parser_(spareParser ? std::move(spareParser) : std::make_unique<simdjson::ondemand::parser>()) {}
+  ~ParserLease() {
+    if (parser_->capacity() <= largestKeptParser) spareParser = std::move(parser_);
   }
-  WorkspaceLease(const WorkspaceLease&) = delete;
-  WorkspaceLease& operator=(const WorkspaceLease&) = delete;
+  ParserLease(const ParserLease&) = delete;
+  ParserLease& operator=(const ParserLease&) = delete;
 
-  Workspace* operator->() { return workspace_.get(); }
+  simdjson::ondemand::parser* operator->() { return parser_.get(); }
 
  private:
-  std::unique_ptr<Workspace> workspace_;
+  std::unique_ptr<simdjson::ondemand::parser> parser_;
 };
-
-std::string_view withoutByteOrderMark(std::string_view bytes) {
-  constexpr std::string_view mark = "\xEF\xBB\xBF";
-  return bytes.starts_with(mark) ? bytes.substr(mark.size()) : bytes;
-}
 
 [[noreturn]] void failBadJSON(std::string_view what) {
   throw DecodingError{.reason = "bad JSON: " + std::string(what)};
@@ -51,18 +40,18 @@ void check(simdjson::error_code error) {
 
 // The text is read as the only element of an array, so that a bare number is a value like any other. The colon stops
 // the search of a container that the text leaves open before it passes the end; the last bracket is looked at first.
-void readJSON(std::string_view bytes, const std::function<void(JSONValue)>& body) {
+void readJSON(std::string text, const std::function<void(JSONValue&)>& body) {
+  constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
   constexpr std::string_view before = "[";
   constexpr std::string_view behind = "]:]";
-  const std::string_view text = withoutByteOrderMark(bytes);
+  static_assert(before.size() + behind.size() + simdjson::SIMDJSON_PADDING <= roomBehindFile);
+  text.reserve(text.size() + roomBehindFile);
+  text.replace(0, text.starts_with(byteOrderMark) ? byteOrderMark.size() : 0, before);
+  text.append(behind);
 
-  WorkspaceLease workspace;
-  std::string& padded = workspace->text;
-  padded.reserve(before.size() + text.size() + behind.size() + simdjson::SIMDJSON_PADDING);
-  padded.assign(before).append(text).append(behind);
-
+  ParserLease parser;
   simdjson::ondemand::document document;
-  check(workspace->parser.iterate(simdjson::padded_string_view(padded, padded.capacity())).get(document));
+  check(parser->iterate(simdjson::padded_string_view(text, text.capacity())).get(document));
   simdjson::ondemand::array array;
   check(document.get_array().get(array));
   std::size_t count = 0;
@@ -70,27 +59,28 @@ void readJSON(std::string_view bytes, const std::function<void(JSONValue)>& body
     simdjson::ondemand::value value;
     check(std::move(result).get(value));
     if (++count > 1) failBadJSON("more than one value");
-    body(JSONValue(value, 0));
+    JSONValue whole(value, 0);
+    body(whole);
   }
   if (count == 0) failBadJSON("empty");
   const char* end = nullptr;
   check(document.current_location().get(end));
-  if (end != padded.data() + padded.size() - (behind.size() - 1)) failBadJSON("something behind the value");
+  if (end != text.data() + text.size() - (behind.size() - 1)) failBadJSON("something behind the value");
 }
 
-void decode(JSONValue value, std::string& text) {
+void decode(JSONValue& value, std::string& text) {
   text.assign(value.text());
 }
 
-void decode(JSONValue value, bool& boolean) {
+void decode(JSONValue& value, bool& boolean) {
   boolean = value.boolean();
 }
 
-void decode(JSONValue value, std::int64_t& integer) {
+void decode(JSONValue& value, std::int64_t& integer) {
   integer = value.integer();
 }
 
-void decode(JSONValue value, Date& date) {
+void decode(JSONValue& value, Date& date) {
   const auto parsed = parseISO8601(value.text());
   if (!parsed) value.fail("not an ISO 8601 date");
   date = *parsed;

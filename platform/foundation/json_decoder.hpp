@@ -16,7 +16,7 @@
 
 // Decoding of the planner's files. A record says once how its members are called:
 //
-//   void decode(JSONValue value, Habit& habit) {
+//   void decode(JSONValue& value, Habit& habit) {
 //     decodeObject(value, required("id", habit.id), required("done", habit.done), ifPresent("note", habit.note));
 //   }
 //   std::expected<std::map<std::string, std::vector<Habit>>, DecodingError> habits = decodeJSON<...>(bytes);
@@ -31,39 +31,51 @@
 
 namespace foundation {
 
-void decode(JSONValue value, std::string& text);
-void decode(JSONValue value, bool& boolean);
-void decode(JSONValue value, std::int64_t& integer);
-void decode(JSONValue value, Date& date);
+void decode(JSONValue& value, std::string& text);
+void decode(JSONValue& value, bool& boolean);
+void decode(JSONValue& value, std::int64_t& integer);
+void decode(JSONValue& value, Date& date);
 
 template <class Element>
-void decode(JSONValue value, std::vector<Element>& elements) {
+void decode(JSONValue& value, std::vector<Element>& elements) {
+  constexpr std::size_t usualSize = 8;  // of the lists of a day: few grow further
   elements.clear();
-  value.forEachElement([&](JSONValue element) { decode(element, elements.emplace_back()); });
+  value.forEachElement([&](JSONValue& element) {
+    if (elements.empty()) elements.reserve(usualSize);
+    decode(element, elements.emplace_back());
+  });
 }
 
 template <class Mapped, class Compare>
-void decode(JSONValue value, std::map<std::string, Mapped, Compare>& members) {
+void decode(JSONValue& value, std::map<std::string, Mapped, Compare>& members) {
   members.clear();
-  value.forEachMember([&](std::string_view key, JSONValue member) {
+  value.forEachMember([&](std::string_view key, JSONValue& member) {
     Mapped mapped = {};
     decode(member, mapped);
     members.try_emplace(std::string(key), std::move(mapped));
   });
 }
 
-/// Parses a text and hands its value to `body`, which must read it. Throws DecodingError.
-void readJSON(std::string_view bytes, const std::function<void(JSONValue)>& body);
+/// Parses a text and hands its value to `body`, which must read it. Throws DecodingError. The text is changed while it
+/// is read: a long one is better moved here than copied.
+void readJSON(std::string text, const std::function<void(JSONValue&)>& body);
 
-/// Decodes a whole text, or says where it does not fit.
+/// Decodes a whole text into a value, or says where it does not fit; the value is then anything.
 template <class T>
-std::expected<T, DecodingError> decodeJSON(std::string_view bytes) {
-  T result = {};
+std::expected<void, DecodingError> decodeJSON(std::string text, T& result) {
   try {
-    readJSON(bytes, [&](JSONValue value) { decode(value, result); });
+    readJSON(std::move(text), [&](JSONValue& value) { decode(value, result); });
   } catch (DecodingError& error) {
     return std::unexpected(std::move(error));
   }
+  return {};
+}
+
+/// Decodes a whole text, or says where it does not fit.
+template <class T>
+std::expected<T, DecodingError> decodeJSON(std::string text) {
+  T result = {};
+  if (auto decoded = decodeJSON(std::move(text), result); !decoded) return std::unexpected(std::move(decoded.error()));
   return result;
 }
 

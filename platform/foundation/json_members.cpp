@@ -5,11 +5,11 @@
 
 namespace foundation {
 
-void decodeMembers(JSONValue value, std::span<const JSONMember> members) {
+void decodeMembers(JSONValue& value, std::span<const JSONMember> members) {
   std::uint64_t seen = 0;
   std::size_t expected = 0;  // files mostly keep the order of the record, so the search starts behind the last find
 
-  value.forEachMember([&](std::string_view key, JSONValue member) {
+  value.forEachMember([&](std::string_view key, JSONValue& member) {
     for (std::size_t step = 0; step < members.size(); ++step) {
       const std::size_t place = expected;
       expected = place + 1 < members.size() ? place + 1 : 0;

@@ -1,9 +1,5 @@
 #include "foundation/json_value.hpp"
 
-#include <cstring>
-
-#include "foundation/json_number.hpp"
-
 namespace foundation {
 namespace {
 
@@ -30,34 +26,11 @@ void JSONValue::failExpecting(std::string_view reason) {
   fail(std::string(reason));
 }
 
-bool JSONValue::isNull() {
-  const std::string_view text = token();
-  if (!text.starts_with('n')) return false;
-  if (text != "null") failBadJSON("a word that is not null");
-  return true;
+void JSONValue::failBadNull() {
+  failBadJSON("a word that is not null");
 }
 
-bool JSONValue::boolean() {
-  const std::string_view text = token();
-  if (text == "true") return true;
-  if (text == "false") return false;
-  failExpecting("not true or false");
-}
-
-std::int64_t JSONValue::integer() {
-  const auto number = wholeNumber(token());
-  if (!number) failExpecting("not a whole number");
-  return *number;
-}
-
-std::string_view JSONValue::text() {
-  const std::string_view quoted = token();
-  if (!quoted.starts_with('"')) failExpecting("not a text");
-  if (std::memchr(quoted.data(), '\\', quoted.size()) == nullptr) {
-    // Moves the parser on: it would take a text that was only looked at for a key if a colon followed.
-    check(value_.get_raw_json_string().error());
-    return quoted.substr(1, quoted.size() - 2);
-  }
+std::string_view JSONValue::unescapedText() {
   std::string_view text;
   check(value_.get_string().get(text));
   return text;
@@ -83,9 +56,9 @@ void JSONValue::skip() {
   const std::string_view text = token();
   switch (text.empty() ? '\0' : text.front()) {
     case '{':
-      return forEachMember([](std::string_view, JSONValue member) { member.skip(); });
+      return forEachMember([](std::string_view, JSONValue& member) { member.skip(); });
     case '[':
-      return forEachElement([](JSONValue element) { element.skip(); });
+      return forEachElement([](JSONValue& element) { element.skip(); });
     case '"':
       this->text();
       return;

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "foundation/decoding_error.hpp"
+#include "foundation/json_number.hpp"
 
 namespace foundation {
 
@@ -26,11 +27,11 @@ class JSONValue {
   std::int64_t integer();
   bool boolean();
 
-  /// Calls `body(std::string_view key, JSONValue member)` for each member of an object; every member must be read or
+  /// Calls `body(std::string_view key, JSONValue& member)` for each member of an object; every member must be read or
   /// skipped.
   template <class Body>
   void forEachMember(Body body);
-  /// Calls `body(JSONValue element)` for each element of an array; every element must be read or skipped.
+  /// Calls `body(JSONValue& element)` for each element of an array; every element must be read or skipped.
   template <class Body>
   void forEachElement(Body body);
 
@@ -43,7 +44,9 @@ class JSONValue {
  private:
   /// The value's text without the blanks behind it; of objects and arrays the bracket.
   std::string_view token();
+  std::string_view unescapedText();
   [[noreturn]] void failExpecting(std::string_view reason);
+  [[noreturn]] static void failBadNull();
   simdjson::ondemand::object enterObject();
   simdjson::ondemand::array enterArray();
   static void check(simdjson::error_code error) {
@@ -63,6 +66,37 @@ inline std::string_view JSONValue::token() {
   return token;
 }
 
+inline bool JSONValue::isNull() {
+  const std::string_view text = token();
+  if (!text.starts_with('n')) return false;
+  if (text != "null") failBadNull();
+  return true;
+}
+
+inline bool JSONValue::boolean() {
+  const std::string_view text = token();
+  if (text == "true") return true;
+  if (text == "false") return false;
+  failExpecting("not true or false");
+}
+
+inline std::int64_t JSONValue::integer() {
+  const std::string_view number = token();
+  if (number.size() == 1 && number.front() >= '0' && number.front() <= '9') return number.front() - '0';
+  const auto whole = wholeNumber(number);
+  if (!whole) failExpecting("not a whole number");
+  return *whole;
+}
+
+inline std::string_view JSONValue::text() {
+  const std::string_view quoted = token();
+  if (!quoted.starts_with('"')) failExpecting("not a text");
+  if (quoted.contains('\\')) return unescapedText();
+  // Moves the parser on: it would take a text that was only looked at for a key if a colon followed.
+  check(value_.get_raw_json_string().error());
+  return quoted.substr(1, quoted.size() - 2);
+}
+
 inline std::string_view JSONValue::keyText(simdjson::ondemand::field& field) {
   const char* const start = field.key().raw();
   const char* end = start;
@@ -80,8 +114,9 @@ void JSONValue::forEachMember(Body body) {
     simdjson::ondemand::field field;
     check(std::move(result).get(field));
     const std::string_view key = keyText(field);
+    JSONValue member(field.value(), depth_ + 1);
     try {
-      body(key, JSONValue(field.value(), depth_ + 1));
+      body(key, member);
     } catch (DecodingError& error) {
       moveIntoMember(error, key);
       throw;
@@ -94,10 +129,11 @@ void JSONValue::forEachElement(Body body) {
   simdjson::ondemand::array array = enterArray();
   std::size_t index = 0;
   for (auto result : array) {
-    simdjson::ondemand::value element;
-    check(std::move(result).get(element));
+    simdjson::ondemand::value value;
+    check(std::move(result).get(value));
+    JSONValue element(value, depth_ + 1);
     try {
-      body(JSONValue(element, depth_ + 1));
+      body(element);
     } catch (DecodingError& error) {
       moveIntoElement(error, index);
       throw;

@@ -56,6 +56,18 @@ TEST(ISO8601, RollsOverAndReadsZonesAsThePlatformDoes) {
   for (const auto& row : rows) EXPECT_EQ(printed(parseISO8601(row.text)), row.wanted) << row.text;
 }
 
+TEST(ISO8601, RefusesEveryDamageOfTheUsualForm) {
+  const std::string text = "2024-03-07T10:20:30Z";
+  for (std::size_t place = 0; place < text.size(); ++place) {
+    for (const char byte : std::string_view("x/:")) {
+      if (text[place] == byte) continue;
+      std::string damaged = text;
+      damaged[place] = byte;
+      EXPECT_EQ(parseISO8601(damaged), std::nullopt) << damaged;
+    }
+  }
+}
+
 TEST(ISO8601, GoesOnTheDayAfterTheLastJulianDayWithTheFirstGregorianOne) {
   const Date last = parseISO8601("1582-10-04T12:00:00Z").value();
   EXPECT_EQ(formatISO8601(last + std::chrono::hours(24)), "1582-10-15T12:00:00Z");

@@ -26,13 +26,13 @@ struct Item {
 
 using Days = std::map<std::string, std::vector<Item>>;
 
-void decode(JSONValue value, Kind& kind) {
+void decode(JSONValue& value, Kind& kind) {
   const std::int64_t raw = value.integer();
   if (raw < 1 || raw > 3) value.fail("not a known type");
   kind = static_cast<Kind>(raw);
 }
 
-void decode(JSONValue value, Item& item) {
+void decode(JSONValue& value, Item& item) {
   using foundation::ifPresent;
   using foundation::required;
   foundation::decodeObject(value, required("type", item.type), required("id", item.id), required("title", item.title),
@@ -206,8 +206,8 @@ TEST(JSONDecoder, TakesTheFirstOfEqualKeys) {
 TEST(JSONDecoder, MayBeUsedWhileItDecodes) {
   std::string inner;
   std::string outer;
-  readJSON(R"(["\n outer"])", [&](JSONValue value) {
-    value.forEachElement([&](JSONValue element) {
+  readJSON(R"(["\n outer"])", [&](JSONValue& value) {
+    value.forEachElement([&](JSONValue& element) {
       const std::string_view text = element.text();
       inner = decodeJSON<std::string>("\"\\t" + std::string(1000, 'x') + "\"").value();
       outer = text;

@@ -2,17 +2,11 @@
 
 #include <optional>
 #include <ranges>
-#include <set>
+#include <string_view>
 
 #include "shared/diagnosis/problem_lines.hpp"
-#include "uikit/platform.hpp"
 
 namespace mirune {
-
-using DayKeys = std::set<std::string, std::less<>>;
-
-/// The keys of the days that timelines of items show.
-DayKeys shownDayKeys(const uikit::Platform& platform);
 
 /// Whether a key is a day of the form yyyy/MM/dd.
 bool isDayKey(std::string_view key);

@@ -1,6 +1,7 @@
 #include "shared/diagnosis/item_problems.hpp"
 
 #include "shared/diagnosis/day_problems.hpp"
+#include "shared/shown_days.hpp"
 
 namespace mirune {
 namespace {
