@@ -22,7 +22,8 @@ TEST(FewDescriptors, DrawTheSamePictureOrNoneAndSayWhy) {
   ASSERT_NE(whole, "");
   int refused = 0;
   int drawn = 0;
-  for (int most = 4; most < 24; ++most) {
+  // With fewer the system cannot load a program: whoever runs this may have left one open.
+  for (int most = 5; most < 24; ++most) {
     SCOPED_TRACE(most);
     const std::string bytes = picture("prlimit --nofile=" + std::to_string(most));
     EXPECT_TRUE(bytes.empty() || bytes == whole);
