@@ -2,6 +2,7 @@
 
 #include <libdeflate.h>
 
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <memory>
@@ -43,9 +44,16 @@ struct Pixels {
   }
 };
 
-/// A colour part as it is without alpha.
-char plain(std::uint32_t value, std::uint32_t alpha) {
-  return static_cast<char>(alpha == 0xFF || alpha == 0 ? value : (value * 255 + alpha / 2) / alpha);
+/// The word with its colours as they are without alpha.
+std::uint32_t plain(std::uint32_t word) {
+  const std::uint32_t alpha = word >> 24;
+  if (alpha == 0xFF || alpha == 0) return word;
+  const auto part = [&](int shift) { return ((word >> shift & 0xFF) * 255 + alpha / 2) / alpha << shift; };
+  return alpha << 24 | part(16) | part(8) | part(0);
+}
+
+std::uint32_t bigEndian(std::uint32_t number) {
+  return std::endian::native == std::endian::big ? number : std::byteswap(number);
 }
 
 /// Bytes that nothing was written to yet: clearing them would take as long as drawing.
@@ -56,27 +64,24 @@ struct Bytes {
   std::size_t size;
 };
 
-/// All rows, each behind its filter.
-Bytes rowsOf(const Pixels& pixels, bool hasAlpha) {
-  const std::size_t samples = hasAlpha ? 4 : 3;
+/// All rows, each behind its filter: red, green, blue and, where there are four samples, alpha.
+template <std::size_t samples>
+Bytes rowsOf(const Pixels& pixels) {
   Bytes rows((1 + pixels.width * samples) * pixels.height);
   char* out = rows.data.get();
   for (std::uint32_t y = 0; y < pixels.height; ++y) {
     *out++ = noFilter;
-    for (std::uint32_t x = 0; x < pixels.width; ++x) {
-      const std::uint32_t word = pixels.at(x, y);
-      const std::uint32_t alpha = word >> 24;
-      *out++ = plain(word >> 16 & 0xFF, alpha);
-      *out++ = plain(word >> 8 & 0xFF, alpha);
-      *out++ = plain(word & 0xFF, alpha);
-      if (hasAlpha) *out++ = static_cast<char>(alpha);
+    for (std::uint32_t x = 0; x < pixels.width; ++x, out += samples) {
+      const std::uint32_t word = bigEndian(std::rotl(plain(pixels.at(x, y)), 8));
+      std::memcpy(out, &word, samples);
     }
   }
   return rows;
 }
 
 void appendNumber(std::string& bytes, std::uint32_t number) {
-  for (int shift = 24; shift >= 0; shift -= 8) bytes += static_cast<char>(number >> shift & 0xFF);
+  const std::uint32_t word = bigEndian(number);
+  bytes.append(reinterpret_cast<const char*>(&word), sizeof word);
 }
 
 /// Length, type and data, and a check sum of the last two.
@@ -115,7 +120,7 @@ std::string encodePNG(cairo_surface_t* surface) {
   header += hasAlpha ? colorsAndAlpha : colors;
   header.append(3, '\0');  // the only compression, the only set of filters, rows in their order
 
-  const Bytes data = compressed(rowsOf(pixels, hasAlpha));
+  const Bytes data = compressed(hasAlpha ? rowsOf<4>(pixels) : rowsOf<3>(pixels));
   std::string bytes = "\x89PNG\r\n\x1a\n";
   appendChunk(bytes, "IHDR", header);
   appendChunk(bytes, "IDAT", {data.data.get(), data.size});
