@@ -3,7 +3,9 @@
 #include <unicode/ubrk.h>
 #include <unicode/utext.h>
 
+#include <map>
 #include <memory>
+#include <utility>
 
 #include "rendering/letters.hpp"
 
@@ -12,16 +14,25 @@ namespace {
 
 using Iterator = std::unique_ptr<UBreakIterator, decltype([](UBreakIterator* iterator) { ubrk_close(iterator); })>;
 
+/// Kept, for to make one takes longer than to break a text; null where ICU lacks the rules.
+UBreakIterator* iteratorOf(UBreakIteratorType type, const std::string& language) {
+  thread_local std::map<std::pair<UBreakIteratorType, std::string>, Iterator> kept;
+  Iterator& iterator = kept[{type, language}];
+  UErrorCode status = U_ZERO_ERROR;
+  if (!iterator) iterator.reset(ubrk_open(type, language.c_str(), nullptr, 0, &status));
+  return U_SUCCESS(status) != 0 ? iterator.get() : nullptr;
+}
+
 std::vector<std::size_t> ends(const std::string& text, UBreakIteratorType type, const std::string& language) {
   if (text.empty()) return {0};
   UErrorCode status = U_ZERO_ERROR;
   UText bytes = UTEXT_INITIALIZER;
   utext_openUTF8(&bytes, text.data(), static_cast<std::int64_t>(text.size()), &status);
-  const Iterator iterator(ubrk_open(type, language.c_str(), nullptr, 0, &status));
-  if (iterator) ubrk_setUText(iterator.get(), &bytes, &status);
+  UBreakIterator* const iterator = iteratorOf(type, language);
+  if (iterator != nullptr) ubrk_setUText(iterator, &bytes, &status);
   std::vector<std::size_t> ends;
-  if (U_SUCCESS(status) != 0) {
-    for (int end = ubrk_next(iterator.get()); end != UBRK_DONE; end = ubrk_next(iterator.get())) {
+  if (iterator != nullptr && U_SUCCESS(status) != 0) {
+    for (int end = ubrk_next(iterator); end != UBRK_DONE; end = ubrk_next(iterator)) {
       ends.push_back(static_cast<std::size_t>(end));
     }
   }

@@ -23,7 +23,14 @@ async function onProgram(options, steps) {
 const tasks = (page) => page.locator('#home .widget').filter({ has: page.getByText('Tasks', { exact: true }) }).first();
 const labels = (page) => tasks(page).locator('.tick').evaluateAll((ticks) => ticks.map((tick) => tick.getAttribute('aria-label')));
 test('All widgets of the first start are drawn, and a tick is recorded in both files', { skip }, () => onProgram([], async (page, host) => {
-  await eventually(() => page.locator('#home .widget img').count(), 8);
+  const widgets = page.locator('#home .widget');
+  await eventually(() => widgets.count(), 8);
+  await widgets.first().locator('img').waitFor();
+  assert.equal(await widgets.last().locator('img').count(), 0, 'what is far below is not asked for yet');
+  for (const widget of await widgets.all()) {
+    await widget.scrollIntoViewIfNeeded();
+    await widget.locator('img').waitFor();
+  }
   await eventually(async () => (await labels(page)).length, 3);
   const [first] = await labels(page);
   await tasks(page).locator('.tick').first().click();
@@ -43,6 +50,7 @@ test('A widget is placed, drawn, moved, seen at another time, and removed', { sk
   await page.keyboard.press('Escape');
   const id = await page.locator('#home .widget').last().getAttribute('data-id');
   const own = page.locator(`[data-id="${id}"]`);
+  await own.scrollIntoViewIfNeeded();
   await own.locator('img').waitFor();
   assert.deepEqual(await own.locator('img').evaluate((one) => [one.naturalWidth, one.offsetWidth]), [158, 158]);
 
@@ -54,6 +62,7 @@ test('A widget is placed, drawn, moved, seen at another time, and removed', { sk
   await own.waitFor();
   assert.equal(await first(), id, 'the order is kept');
 
+  await own.scrollIntoViewIfNeeded();
   await page.locator('#slider').press('End');
   await page.waitForFunction(() => document.querySelector('#away').textContent);
   await own.locator('img').waitFor();
