@@ -24,7 +24,8 @@ class ByteSource {
   }
   bool coin() { return between(0, 1) == 1; }
   std::string text(int longest) {
-    const auto length = std::min(static_cast<std::size_t>(between(0, longest)), bytes_.size());
+    const auto wanted = static_cast<std::size_t>(between(0, longest));
+    const std::size_t length = std::min(wanted, bytes_.size());
     const std::string result(bytes_.begin(), bytes_.begin() + static_cast<std::ptrdiff_t>(length));
     bytes_ = bytes_.subspan(length);
     return result;
