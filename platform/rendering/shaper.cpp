@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <memory>
+#include <ranges>
 
 #include "rendering/letters.hpp"
 #include "rendering/text_segments.hpp"
@@ -66,9 +67,9 @@ void setEnds(GlyphRun& run, std::size_t end) {
     end = cluster.start;
   };
   if (run.runsToTheLeft) {
-    std::for_each(run.clusters.begin(), run.clusters.end(), endAt);
+    std::ranges::for_each(run.clusters, endAt);
   } else {
-    std::for_each(run.clusters.rbegin(), run.clusters.rend(), endAt);
+    std::ranges::for_each(std::views::reverse(run.clusters), endAt);
   }
 }
 

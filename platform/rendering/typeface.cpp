@@ -75,12 +75,12 @@ cairo_font_face_t* Typeface::pen() const {
   if (drawn->get() == nullptr) return nullptr;
   pen_.reset(cairo_ft_font_face_create_for_ft_face(drawn->get(), FT_LOAD_NO_HINTING));
   static const cairo_user_data_key_t key{};
-  const auto destroy = [](void* face) { delete static_cast<DrawnFace*>(face); };
-  if (cairo_font_face_set_user_data(pen_.get(), &key, drawn.get(), destroy) != CAIRO_STATUS_SUCCESS) {
+  const auto destroy = [](void* face) { const std::unique_ptr<DrawnFace> last(static_cast<DrawnFace*>(face)); };
+  DrawnFace* const kept = drawn.release();  // by Cairo
+  if (cairo_font_face_set_user_data(pen_.get(), &key, kept, destroy) != CAIRO_STATUS_SUCCESS) {
     pen_.reset();
-    return nullptr;
+    destroy(kept);
   }
-  drawn.release();  // it is Cairo's now
   return pen_.get();
 }
 

@@ -30,6 +30,7 @@ struct EnvironmentValues {
   double minimumScaleFactor = 1;  ///< how small a text may be drawn to fit
   TextAlignment multilineTextAlignment = TextAlignment::leading;
   std::shared_ptr<const AnyToggleStyle> toggleStyle = nullptr;
+  bool accessibilityEnabled = true;  ///< somebody is to hear what there is to see
   bool accessibilityHidden = false;
   bool isRedacted = false;  ///< texts and pictures show only where they stand
 };

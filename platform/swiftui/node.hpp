@@ -91,7 +91,7 @@ struct EnvironmentNode {
 };
 /// Said in place of the content.
 struct AccessibilityLabelNode {
-  std::string label = {};
+  std::function<std::string()> label = {};
   View content;
 };
 struct ToggleNode {

@@ -124,10 +124,11 @@ class Resolver {
   }
 
   void append(const AccessibilityLabelNode& node, const EnvironmentValues& environment, Elements& out) {
-    const bool isSaid =
-        !node.label.empty() && environment.opacity > 0 && !environment.accessibilityHidden && !environment.isRedacted;
-    if (!isSaid) return append(node.content, environment, out);
-    wrapEach(node.content, environment, AccessibilityLabelElement{.label = node.label}, out);
+    const bool isSaid = environment.accessibilityEnabled && environment.opacity > 0 &&
+                        !environment.accessibilityHidden && !environment.isRedacted;
+    std::string label = isSaid ? node.label() : "";
+    if (label.empty()) return append(node.content, environment, out);
+    wrapEach(node.content, environment, AccessibilityLabelElement{.label = std::move(label)}, out);
   }
   void append(const ToggleNode& node, const EnvironmentValues& environment, Elements& out) {
     const View look = environment.toggleStyle

@@ -82,6 +82,9 @@ View View::accessibilityHidden() const {
   return changing(HideFromAccessibility{});
 }
 View View::accessibilityLabel(std::string label) const {
+  return accessibilityLabel([label = std::move(label)] { return label; });
+}
+View View::accessibilityLabel(std::function<std::string()> label) const {
   return View(Node{AccessibilityLabelNode{.label = std::move(label), .content = *this}});
 }
 

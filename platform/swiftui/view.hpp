@@ -97,6 +97,8 @@ class View {
   /// Makes one thing of it to a screen reader, which says this in place of what is seen, unless empty; nothing where
   /// it cannot be seen. It would hide a control: give it to the control's label.
   View accessibilityLabel(std::string label) const;
+  /// The same, made only where somebody is to hear it.
+  View accessibilityLabel(std::function<std::string()> label) const;
 
  private:
   View changing(EnvironmentChange change) const;

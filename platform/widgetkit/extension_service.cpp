@@ -81,8 +81,9 @@ Reply ExtensionService::answer(const messages::DrawEntry& request, const uikit::
   const auto family = familyNamed(request.family);
   if (!family) return family.error();
   if (const auto refused = refusedScale(request.scale)) return *refused;
-  const rendering::Scene scene = sceneOf(*widget, *family, request.entry, platform, request.scale, renderer());
   using enum messages::PictureFormat;
+  const bool isHeard = request.format == text || request.format == json;
+  const rendering::Scene scene = sceneOf(*widget, *family, request.entry, platform, request.scale, renderer(), isHeard);
   if (request.format == text) return messages::Picture{.bytes = rendering::plainText(scene)};
   if (request.format == json) return messages::Picture{.bytes = documentOf(scene, widget->kind(), *family)};
   return messages::Picture{

@@ -23,13 +23,15 @@ swiftui::EdgeInsets marginsOf(const StaticConfiguration& widget, WidgetFamily fa
 }  // namespace
 
 rendering::Scene sceneOf(const StaticConfiguration& widget, WidgetFamily family, const foundation::JSON& entry,
-                         const uikit::Platform& platform, double displayScale, const swiftui::LeafMeasurer& measurer) {
+                         const uikit::Platform& platform, double displayScale, const swiftui::LeafMeasurer& measurer,
+                         bool accessibilityEnabled) {
   const auto direction = platform.calendar.locale().isRightToLeft() ? swiftui::LayoutDirection::rightToLeft
                                                                     : swiftui::LayoutDirection::leftToRight;
   const swiftui::EnvironmentValues environment{.platform = std::make_shared<const uikit::Platform>(platform),
                                                .widgetFamily = family,
                                                .colorScheme = platform.appearance,
                                                .layoutDirection = direction,
+                                               .accessibilityEnabled = accessibilityEnabled,
                                                .isRedacted = platform.isRedacted};
   const auto resolved = swiftui::resolve(widget.content(entry), environment);
   return rendering::compose(resolved,

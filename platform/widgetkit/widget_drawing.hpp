@@ -8,9 +8,11 @@
 
 namespace widgetkit {
 
-/// One entry of one kind, laid out for a family on the platform's screen.
+/// One entry of one kind, laid out for a family on the platform's screen. Whoever wants its picture alone need not have
+/// made what is said of it.
 rendering::Scene sceneOf(const StaticConfiguration& widget, swiftui::WidgetFamily family, const foundation::JSON& entry,
-                         const uikit::Platform& platform, double displayScale, const swiftui::LeafMeasurer& measurer);
+                         const uikit::Platform& platform, double displayScale, const swiftui::LeafMeasurer& measurer,
+                         bool accessibilityEnabled = true);
 
 /// The bytes of a picture file: PNG, SVG or PDF. Texts and JSON are no pictures.
 std::string pictureOf(const rendering::Composition& composition, messages::PictureFormat format, double scale,

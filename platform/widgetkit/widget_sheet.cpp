@@ -114,7 +114,7 @@ Composition sheetOf(std::span<const StaticConfiguration> widgets, const uikit::P
       ++progress.done;
       try {
         block.pictures.emplace_back(
-            nameOf(family), sceneOf(widget, family, snapshot.entries.front(), platform, displayScale, measurer));
+            nameOf(family), sceneOf(widget, family, snapshot.entries.front(), platform, displayScale, measurer, false));
       } catch (const DrawingError&) {
         continue;
       }

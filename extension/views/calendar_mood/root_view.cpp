@@ -14,7 +14,10 @@ namespace {
 /// A day's number, in a cell that is as wide as two digits whatever the number.
 View dayCell(const RootView& root, const foundation::Words& words, foundation::Date day) {
   const bool isToday = day == root.today;
-  const std::string said = spokenDay(root.calendar, day);
+  const auto label = [calendar = root.calendar, words, day, isToday] {
+    const std::string said = spokenDay(calendar, day);
+    return isToday ? spokenToday(words, said) : said;
+  };
   const auto number = root.calendar.component(foundation::CalendarComponent::day, day);
   return text("30")
       .font(system(9))
@@ -22,7 +25,7 @@ View dayCell(const RootView& root, const foundation::Words& words, foundation::D
       .padding({.leading = 0.1, .bottom = 0.05, .trailing = 0.1})
       .background(when(isToday, TodayMarker{}))
       .overlay(text(std::to_string(number)).font(system(9)).minimumScaleFactor(0.1))
-      .accessibilityLabel(isToday ? spokenToday(words, said) : said);
+      .accessibilityLabel(label);
 }
 
 }  // namespace

@@ -56,7 +56,7 @@ View HeaderBadge::body(const EnvironmentValues& environment) const {
       .padding({.leading = 4, .trailing = 4})
       .background(resizableImage(badgeImageName(image, scheme)))
       .overlay(text(std::to_string(day)).font(custom(badgeFont, 13.5)).opacity(scheme == ColorScheme::dark ? 0.9 : 0.6))
-      .accessibilityLabel(spokenDay(calendar, date));
+      .accessibilityLabel([calendar, day = date] { return spokenDay(calendar, day); });
 }
 
 }  // namespace mirune
