@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "rendering/fontconfig.hpp"
+#include "rendering/installed_fonts.hpp"
 #include "rendering/typeface.hpp"
 #include "swiftui/font.hpp"
 

@@ -23,7 +23,6 @@ constexpr std::array<hb_feature_t, 2> apart{
     {{.tag = HB_TAG('l', 'i', 'g', 'a'), .value = 0, .start = 0, .end = HB_FEATURE_GLOBAL_END},
      {.tag = HB_TAG('c', 'l', 'i', 'g'), .value = 0, .start = 0, .end = HB_FEATURE_GLOBAL_END}}};
 
-/// Each character of a line at a position.
 char32_t characterAt(std::string_view line, std::size_t position) {
   return nextCharacter(line, position);
 }

@@ -1,4 +1,4 @@
-#include "rendering/fontconfig.hpp"
+#include "rendering/installed_fonts.hpp"
 
 namespace rendering {
 namespace {
