@@ -88,7 +88,8 @@ const Typeface* FontLibrary::typeface(const Font& font) {
 
 const Typeface* FontLibrary::systemTypeface(const Font& font) {
   if (const Typeface* system = open(systemFile(font))) return system;
-  for (const FontFace& face : faces(wish(font, {std::string(systemFamily)}, "en"))) {
+  const std::vector<std::string> plainFamilies{std::string(systemFamily), "Noto Sans", "DejaVu Sans"};
+  for (const FontFace& face : faces(wish(font, plainFamilies, "en"))) {
     if (const Typeface* installed = open(face.file, face.index)) return installed;
   }
   return nullptr;
